@@ -1,0 +1,246 @@
+#include "decode/MeteoDecode.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "decode/BulletinText.h"
+#include "shell/FileText.h"
+#include "text/Windows1252.h"
+
+namespace zg {
+namespace {
+
+constexpr int LinesBetweenYields = 10;
+
+std::string_view NameOfPath(std::string_view path) noexcept {
+  const std::size_t separator = path.find_last_of("/\\");
+  return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+}  // namespace
+
+MeteoDecode::MeteoDecode(MeteoDecodeSettings settings, DecodeContext& context, DBUtility& database,
+                         Prompt& prompt, Clock& clock, Progress& progress)
+    : settings_(std::move(settings)),
+      context_(context),
+      database_(database),
+      prompt_(prompt),
+      clock_(clock),
+      progress_(progress),
+      scanner_(*this, context.Log, context.Texts()),
+      metarDecoder_(context),
+      synopDecoder_(context) {
+  if (settings_.MaxMessages > LargestMaxMessages) {
+    context_.Log.Log(std::string(context_.Texts().Choose("MaxMessages ridotto a ",
+                                                         "MaxMessages cut to ")) +
+                     PlainDecimal(LargestMaxMessages));
+    settings_.MaxMessages = LargestMaxMessages;
+  }
+}
+
+MeteoDecode::Summary MeteoDecode::DecodeFile(const std::string& fileName) {
+  FileBytes file = ReadFileBytes(fileName);
+  if (!file.Ok()) {
+    StartRun(false);
+    Fail(file.Error);
+    return std::exchange(summary_, {});
+  }
+  const bool repair = NeedsLineFeedRepair(file.Bytes);
+  if (!repair || !settings_.RewriteFiles) return DecodeBytes(fileName, std::move(file.Bytes));
+  context_.Log.Log(
+      context_.Texts().Choose("Formattazione ... Attendere!", "Formatting ... Wait!"));
+  RepairLineFeeds(file.Bytes);
+  AtomicFile repaired(fileName);
+  if (!repaired.Write(file.Bytes) || !repaired.Commit()) {
+    context_.Log.Log(repaired.Error());  // the bytes in memory are good all the same
+  }
+  return Run(fileName, std::move(file.Bytes), true);
+}
+
+MeteoDecode::Summary MeteoDecode::DecodeBytes(std::string_view name, std::string bytes) {
+  const bool repair = NeedsLineFeedRepair(bytes);
+  if (repair) {
+    context_.Log.Log(
+        context_.Texts().Choose("Formattazione ... Attendere!", "Formatting ... Wait!"));
+    RepairLineFeeds(bytes);
+  }
+  return Run(name, std::move(bytes), repair);
+}
+
+void MeteoDecode::StartRun(bool singleMessage) {
+  scanner_.Reset(singleMessage);
+  storeFamily_ = Family::None;
+  firstMessage_ = true;
+  summary_ = {};
+}
+
+MeteoDecode::Summary MeteoDecode::Run(std::string_view name, std::string bytes, bool repaired) {
+  StartRun(false);
+  summary_.Read = true;
+  summary_.Bytes = static_cast<std::int64_t>(bytes.size());
+  if (bytes.empty()) return std::exchange(summary_, {});
+
+  const std::string folder = settings_.ApplicationPath + "WrongFiles";
+  mkdir(folder.c_str(), 0777);  // where it is there already that is as good
+  wrongFile_ =
+      std::make_unique<AtomicFile>(folder + "/" + std::string(NameOfPath(name)) + ".Wrong");
+  context_.Log.Log(std::string(context_.Texts().Choose("Decodifica ... ", "Decoding ... ")) +
+                   std::string(name) + " (" + std::to_string(bytes.size()) + "Bytes)");
+  progress_.Begin(summary_.Bytes);
+  ReadLines(bytes, repaired);
+  summary_.Lines = scanner_.LineCount();
+  if (!wrongFile_->Commit()) Fail(wrongFile_->Error());
+  wrongFile_.reset();
+  if (context_.Texts().IsItalian()) {
+    context_.Log.Log("Chiusura File: " + std::string(name));
+  } else {
+    context_.Log.Log("File " + std::string(name) + " Closed");
+  }
+  storeFamily_ = Family::None;
+  return std::exchange(summary_, {});
+}
+
+void MeteoDecode::ReadLines(std::string_view bytes, bool repaired) {
+  const std::int64_t start = clock_.TickCount();
+  LineReader reader(bytes, repaired);
+  std::string_view line;
+  for (int counter = 1; !stopRequested_ && reader.Next(line); ++counter) {
+    upperLine_ = line;
+    UpperCaseWindows1252(upperLine_);
+    scanner_.ScanLine(upperLine_);
+    progress_.Advance(static_cast<std::int64_t>(reader.Position()));
+    if (counter % LinesBetweenYields == 0) progress_.Yield();
+    while (break_) progress_.Yield();
+  }
+  const auto position = static_cast<std::int64_t>(reader.Position());
+  LogSpeed(position, std::max<std::int64_t>(clock_.TickCount() - start, 1));
+  if (!stopRequested_) progress_.Advance(summary_.Bytes);
+  stopRequested_ = false;
+}
+
+void MeteoDecode::LogSpeed(std::int64_t position, std::int64_t milliseconds) {
+  const double speed = static_cast<double>(position) / static_cast<double>(milliseconds) * 1000;
+  context_.Log.Log(
+      std::string(context_.Texts().Choose("Velocita di Decodifica: ", "Decoding Speed: ")) +
+      FormatNumber(speed, "0.00") + " Bytes/sec");
+}
+
+bool MeteoDecode::DecodeLine(std::string_view text) {
+  StartRun(true);
+  BulletinScanner::Result result;
+  if (!text.empty()) {
+    upperLine_ = Utf8ToWindows1252(text);
+    UpperCaseWindows1252(upperLine_);
+    result = scanner_.ScanLine(upperLine_);
+  }
+  stopRequested_ = false;
+  const bool stored = result.Complete && !result.Failed;
+  if (!stored) context_.Log.Log(context_.Texts().Choose("Messaggio errato.", "Wrong Message."));
+  return stored;
+}
+
+bool MeteoDecode::DecodeMessage(const BulletinMessage& message) {
+  if (message.Type == MessageType::FRONTS) {
+    StoreFronts(message);
+    return false;
+  }
+  const bool synop = message.Type == MessageType::AAXX || message.Type == MessageType::BBXX;
+  if (!ClaimStore(synop ? Family::Synop : Family::Metar)) return false;
+  bool stored = false;
+  bool wrong = false;
+  if (synop) {
+    const auto outcome = synopDecoder_.DecodeSynopMessage(message, summary_.DecodedCount);
+    stored = outcome.Stored;
+    wrong = outcome.PrintWrongLine;
+  } else {
+    const auto outcome = metarDecoder_.DecodeMetarMessage(message, summary_.DecodedCount);
+    stored = outcome.Stored;
+    wrong = outcome.PrintWrongLine;
+  }
+  if (wrong) PrintWrongLine(message.Text);
+  if (stored) CountStored();
+  return stored;
+}
+
+// The first message of a run chooses the store and empties it; messages of the other family are
+// passed over to the end of the run.
+bool MeteoDecode::ClaimStore(Family family) {
+  if (storeFamily_ != Family::None && storeFamily_ != family) return false;
+  if (firstMessage_) {
+    firstMessage_ = false;
+    storeFamily_ = family;
+    const auto size = static_cast<std::size_t>(std::max(settings_.MaxMessages, 0));
+    if (family == Family::Synop) {
+      context_.Stores.SynopStore.Reset(size);
+    } else {
+      context_.Stores.MetarStore.Reset(size);
+    }
+  }
+  return true;
+}
+
+void MeteoDecode::CountStored() {
+  ++summary_.DecodedCount;
+  if (summary_.DecodedCount < settings_.MaxMessages) return;
+  context_.Log.Log(PlainDecimal(summary_.DecodedCount) +
+                   std::string(context_.Texts().Choose(
+                       " Msg: Numero Massimo di messaggi raggiunto.",
+                       " Msg: Max Message number reached.")));
+  stopRequested_ = true;
+}
+
+void MeteoDecode::StoreFronts(const BulletinMessage& message) {
+  std::vector<FrontsRow> rows;
+  const bool complete = DecodeFronts(message, rows);
+  summary_.FrontsDecoded = true;
+  for (const FrontsRow& row : rows) {
+    database_.Query(
+        "insert into Fronts (Type, RecNum, Validity, MsgTime, Pressure, Lat, \"Long\") "
+        "values (?, ?, ?, ?, ?, ?, ?)",
+        {std::int64_t{row.Type}, std::int64_t{row.RecNum}, row.Validity, row.MsgTime, row.Pressure,
+         row.Lat, row.Long});
+  }
+  if (complete) {
+    context_.Log.Log(context_.Texts().Choose("Database dei Fronti Aggiornato!",
+                                             "Fronts Database Updated!"));
+  } else {
+    LogAtLine(context_, "Posizione del centro mancante; Line: ",
+              "Position of the centre missing; Line: ", message.LineCount);
+  }
+}
+
+void MeteoDecode::ResetFronts() { database_.Query("Delete from Fronts"); }
+
+void MeteoDecode::PrintWrongLine(std::string_view line) {
+  ++summary_.WrongLines;
+  const std::string text = Windows1252ToUtf8(line);
+  if (wrongFile_) {
+    wrongFile_->Write(text);
+    wrongFile_->Write("\n");
+  }
+  context_.Observer.WrongLine(text);
+}
+
+void MeteoDecode::Fail(const std::string& text) {
+  summary_.Error = text;
+  prompt_.Show(Prompt::Icon::Critical, text);
+  context_.Log.Log(text);
+}
+
+std::string NormaliseTypedMessage(std::string_view text) {
+  if (text.empty()) return {};
+  std::string line;
+  if (const std::size_t equals = text.find('='); equals != std::string_view::npos) {
+    line = text.substr(0, equals + 2);
+  } else {
+    line = std::string(Trim(text)) + " =";
+  }
+  for (char& c : line) {
+    if (c == '\r' || c == '\n') c = ' ';
+  }
+  return ReplaceAll(line, "  ", " ");
+}
+
+}  // namespace zg

@@ -1,0 +1,40 @@
+// Decodes METAR, SPECI and TAF messages (code forms FM 15, FM 16, FM 51) into the store.
+#pragma once
+
+#include <vector>
+
+#include "decode/BulletinMessage.h"
+#include "decode/DecodeContext.h"
+#include "decode/aero/MetarRecord.h"
+
+namespace zg {
+
+class MetarDecoder {
+ public:
+  explicit MetarDecoder(DecodeContext& context) noexcept : context_(context) {}
+
+  struct Outcome {
+    bool Stored = false;
+    bool PrintWrongLine = false;  // the message is to go to the wrong-line file
+  };
+
+  // Decodes one message. A word that no group fits is passed over, one that cannot be read is
+  // logged; neither loses the message. `decodedCount` is the number of messages stored before it.
+  Outcome DecodeMetarMessage(const BulletinMessage& message, int decodedCount);
+
+ private:
+  void DecodeHeading(const BulletinMessage& message);
+  bool FindTime(const BulletinMessage& message);
+  bool PassesFilters(bool singleMessage);
+  void Publish(int decodedCount);
+  void DecodeWords(const BulletinMessage& message);
+  Outcome Reject(bool printWrongLine);
+
+  DecodeContext& context_;
+  MetarRawData raw_;
+  MessageScratch scratch_;
+  std::size_t wordIndex_ = 0;
+  std::vector<std::string_view> forms_;
+};
+
+}  // namespace zg

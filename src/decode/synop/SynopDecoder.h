@@ -1,0 +1,43 @@
+// Decodes SYNOP messages of land and sea stations (code forms FM 12 and FM 13) into the store.
+#pragma once
+
+#include "decode/BulletinMessage.h"
+#include "decode/DecodeContext.h"
+#include "decode/synop/SynopRecord.h"
+#include "decode/synop/SynopWalk.h"
+
+namespace zg {
+
+class SynopDecoder {
+ public:
+  explicit SynopDecoder(DecodeContext& context) noexcept : context_(context) {}
+
+  struct Outcome {
+    bool Stored = false;
+    bool PrintWrongLine = false;  // the message is to go to the wrong-line file
+  };
+
+  // Decodes one message. A group that cannot be read is logged and stays missing; it does not lose
+  // the message. `decodedCount` is the number of messages stored before it.
+  Outcome DecodeSynopMessage(const BulletinMessage& message, int decodedCount);
+
+ private:
+  enum class Step { GoOn, Reject, Drop };
+
+  Step ReadHeading(const BulletinMessage& message, SynopWalk& walk);
+  Step ReadSeaHeader(const BulletinMessage& message, SynopWalk& walk);
+  Step ReadLandHeader(SynopWalk& walk);
+  Step FindStation(bool singleMessage);
+  Step PassQuadrant(bool singleMessage);
+  void Publish(int decodedCount);
+  void ReadSections(SynopWalk& walk);
+  void LogWithoutInformation(std::int32_t line);
+
+  DecodeContext& context_;
+  SynopRawData raw_;
+  MessageScratch scratch_;
+  int stationRow_ = -1;
+  std::string_view listName_;
+};
+
+}  // namespace zg

@@ -1,0 +1,123 @@
+// The text and number rules of the whole program: cutting texts, reading numbers out of them and
+// writing numbers back. Nothing else in the program parses or formats a number.
+//
+// Texts are sequences of single-byte characters (Windows-1252, as bulletins come) or UTF-8; every
+// rule here looks at ASCII characters only, so that both work. Positions count from 1, as the code
+// forms of the WMO manuals do. No function throws, allocates (unless it returns a std::string) or
+// looks at a locale.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zg {
+
+// The `count` characters of `text` from position `start` (from 1). Beyond the end there is less or
+// nothing; that is no error.
+constexpr std::string_view Mid(std::string_view text, std::size_t start,
+                               std::size_t count = std::string_view::npos) noexcept {
+  if (start == 0 || start > text.size()) return {};
+  return text.substr(start - 1, count);
+}
+
+// The last `count` characters, or the whole text if it is shorter.
+constexpr std::string_view Right(std::string_view text, std::size_t count) noexcept {
+  return count >= text.size() ? text : text.substr(text.size() - count);
+}
+
+// Takes blanks off both ends. Blanks only: tabs and control characters stay.
+constexpr std::string_view Trim(std::string_view text) noexcept {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
+
+constexpr bool Holds(std::string_view text, std::string_view part) noexcept {
+  return text.find(part) != std::string_view::npos;
+}
+
+constexpr bool IsDigit(char c) noexcept { return c >= '0' && c <= '9'; }
+constexpr bool IsLetter(char c) noexcept { return c >= 'A' && c <= 'Z'; }
+
+// True for a text of one or more digits and nothing else.
+constexpr bool IsDigits(std::string_view text) noexcept {
+  for (char c : text) {
+    if (!IsDigit(c)) return false;
+  }
+  return !text.empty();
+}
+
+// True for a text made of solidi only (at least one): how a code form writes "not reported".
+constexpr bool IsSolidi(std::string_view text) noexcept {
+  for (char c : text) {
+    if (c != '/') return false;
+  }
+  return !text.empty();
+}
+
+// --- Reading numbers ---------------------------------------------------------------------------
+
+// True if the whole text is a number: an optional sign, digits with at most one point, at least one
+// digit. No exponent, no comma, no blank.
+bool IsNumeric(std::string_view text) noexcept;
+
+// Strict conversion: the number that the whole text is, or nothing.
+std::optional<double> StrictNumber(std::string_view text) noexcept;
+
+// Lenient conversion: the number at the beginning of the text; reading stops at the first character
+// that cannot continue it. 0 if the text does not begin with a number. The text before the first
+// digit may hold a sign and a point; no blank is passed over.
+double Value(std::string_view text) noexcept;
+
+// Rounds to the nearest whole number, halves to the even one.
+double RoundHalfEven(double value) noexcept;
+
+// The value as an integer of type T, rounded halves to even; nothing when it is out of T's range.
+template <typename T>
+std::optional<T> ToInteger(double value) noexcept {
+  const double rounded = RoundHalfEven(value);
+  if (!(rounded >= static_cast<double>(std::numeric_limits<T>::min()) &&
+        rounded <= static_cast<double>(std::numeric_limits<T>::max()))) {
+    return std::nullopt;
+  }
+  return static_cast<T>(rounded);
+}
+
+// Strict conversion into an integer of type T: "1.5" rounds to 2, "256" is nothing for 8 bits.
+template <typename T>
+std::optional<T> StrictInteger(std::string_view text) noexcept {
+  const std::optional<double> number = StrictNumber(text);
+  return number ? ToInteger<T>(*number) : std::nullopt;
+}
+
+// --- Writing numbers ---------------------------------------------------------------------------
+
+// Plain decimal text of a 64-bit float: the shortest form of up to 15 significant digits, never an
+// exponent, "0.5" with its zero. A result of all zeros has no sign. Not a number or infinite: "".
+std::string PlainDecimal(double value);
+
+// Plain decimal text of a 32-bit float: up to 7 significant digits, so that 12.3F is "12.3".
+std::string PlainDecimal(float value);
+
+// Plain decimal text of a whole number.
+std::string PlainDecimal(int value);
+
+// Formats a number by a mask. In a mask "0" is a forced digit, "#" a digit where one is needed, the
+// first "." behind a digit the decimal point; every other character stands for itself. Digits fill
+// the mask from the right, more digits than places go in front at the first place, and decimals are
+// rounded on the decimal digits, halves away from zero. A minus stands in front of all, unless all
+// digits are zeros. So 1230 by "00:00Z" gives "12:30Z", -5 by "00.0" gives "-05.0".
+std::string FormatNumber(double value, std::string_view mask);
+
+// The same for a number held as text; a comma is read as a point. A text that is not numeric comes
+// back unchanged.
+std::string FormatText(std::string_view text, std::string_view mask);
+
+// Replaces every occurrence of `from` (not empty) by `to`.
+std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
+
+}  // namespace zg

@@ -1,0 +1,1 @@
+"""Shared modules of the tools that make the files under data/."""
