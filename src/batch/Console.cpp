@@ -23,7 +23,9 @@ void WriteToStandardError(std::string_view text) {
 
 void PrintError(std::string_view line) {
   std::string text(line);
+  static const bool terminal = isatty(STDERR_FILENO) != 0;
   for (char& c : text) {
+    if (!terminal) break;
     if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) c = '?';
   }
   WriteToStandardError(text += '\n');

@@ -9,7 +9,8 @@
 
 namespace zg {
 
-// A line on standard error. Control characters, which a bulletin may hold, are shown as "?".
+// A line on standard error. Control characters, which a bulletin may hold, are shown as "?" on a
+// terminal.
 void PrintError(std::string_view line);
 
 class ConsoleLog : public LogList {

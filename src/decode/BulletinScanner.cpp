@@ -47,10 +47,10 @@ struct TypeWords {
 TypeWords FindTypeWords(std::string_view line) noexcept {
   const std::size_t land = line.find("AAXX");
   TypeWords words{land != std::string_view::npos ? land : line.find("BBXX"), 0};
-  words.end = std::min(line.find(' ', words.begin), line.size());
+  words.end = std::min(line.find_first_of(" =", words.begin), line.size());
   if (words.end == land + 4) {
     const std::size_t next = std::min(line.find_first_not_of(' ', words.end), line.size());
-    words.end = std::min(line.find(' ', next), line.size());
+    words.end = std::min(line.find_first_of(" =", next), line.size());
   }
   return words;
 }
@@ -125,8 +125,10 @@ BulletinScanner::Step BulletinScanner::TakeIdleLine(std::string_view line, bool 
     StartHeading(line);
     return Step::GoOn;
   }
-  if (!HasBulletinHeading() && SynopTypeOfWord(FirstWord(line)) != MessageType::Unknown) {
-    if (!messageText_.empty()) Print(messageText_);
+  const bool mayBeTypeLine =
+      !HasBulletinHeading() && (headerText_.empty() || messageText_.empty());
+  if (mayBeTypeLine && SynopTypeOfWord(FirstWord(line)) != MessageType::Unknown) {
+    if (!messageText_.empty()) Print(messageText_);  // it belongs to no report
     messageText_.clear();
     headerText_.clear();
     messageType_ = SynopTypeOfWord(FirstWord(line));
@@ -252,7 +254,7 @@ void BulletinScanner::AdoptTypeWord() {
     const std::size_t end = FindTypeWords(messageText_).end;
     headerText_.resize(typeLine_);
     headerText_.append(messageText_, 0, end).append(" ");
-    messageText_.erase(0, end);
+    messageText_.erase(0, std::min(messageText_.find_first_not_of(' ', end), messageText_.size()));
   } else if (!HasBulletinHeading() && ReportTypeOfWord(word) != MessageType::Unknown) {
     messageType_ = ReportTypeOfWord(word);
     headerText_.clear();

@@ -30,8 +30,8 @@ constexpr std::array<TypeWord, 7> TypeWords = {{
 
 void SetPosition(FrontsRow& row, std::string_view word) {
   if (word.size() != 4 && word.size() != 5) return;
-  row.Lat = word.substr(0, 2);
-  row.Long = word.substr(2);
+  row.Lat = Windows1252ToUtf8(word.substr(0, 2));
+  row.Long = Windows1252ToUtf8(word.substr(2));
 }
 
 }  // namespace

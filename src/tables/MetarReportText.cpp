@@ -4,6 +4,7 @@
 
 #include "shell/GenericUtility.h"
 #include "tables/StationText.h"
+#include "text/Windows1252.h"
 
 namespace zg {
 namespace {
@@ -62,8 +63,9 @@ bool Has(std::int32_t flags, std::uint8_t position) noexcept {
 
 // "15/12:50Z" from ddhhmm, "12:50Z" from hhmm; nothing from anything else.
 std::string_view TimeText(std::string_view digits, TextArena& arena) {
-  if (digits.size() == 6) return arena.Copy(FormatText(digits, "00/00:00Z"));
-  if (digits.size() == 4) return arena.Copy(FormatText(digits, "00:00Z"));
+  const std::size_t count = CharacterCount(digits);
+  if (count == 6) return arena.Copy(FormatText(digits, "00/00:00Z"));
+  if (count == 4) return arena.Copy(FormatText(digits, "00:00Z"));
   return {};
 }
 

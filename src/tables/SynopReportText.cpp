@@ -4,6 +4,7 @@
 
 #include "shell/GenericUtility.h"
 #include "tables/StationText.h"
+#include "text/Windows1252.h"
 
 namespace zg {
 namespace {
@@ -299,9 +300,10 @@ void StoreSeaWind(const SynopRawData& raw, Maker& make, SynopData& record) {
     record.MaxWindDir = make.Masked(Rule::MaxWindDirection, raw.MaxWindDir * 10, "000 deg");
   }
   for (std::size_t i = 0; i < ContinuousWinds; ++i) {
-    const std::string_view word = raw.CountinuousWindRaw[i];
-    if (word.empty()) continue;
-    record.CountinuousWindDir[i] = make.Arena().Copy(std::string(Mid(word, 1, 3)) + " deg");
+    if (raw.CountinuousWindRaw[i].empty()) continue;
+    const std::string word = Utf8ToWindows1252(raw.CountinuousWindRaw[i]);  // one byte a character
+    record.CountinuousWindDir[i] =
+        make.Arena().Copy(Windows1252ToUtf8(Mid(word, 1, 3)) + " deg");
     record.CountinuousWindSpeed[i] = make.Arena().Copy(
         make.Convert(PlainDecimal(Value(Mid(word, 4, 3)) / 10) + " mps", UnitKind::Speed));
   }

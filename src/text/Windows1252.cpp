@@ -95,6 +95,12 @@ bool IsUtf8(std::string_view text) noexcept {
   return true;
 }
 
+std::size_t CharacterCount(std::string_view text) noexcept {
+  std::size_t count = 0;
+  for (char c : text) count += (static_cast<unsigned char>(c) & 0xC0U) != 0x80U ? 1U : 0U;
+  return count;
+}
+
 std::string Windows1252ToUtf8(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size());

@@ -4,6 +4,7 @@
 // on the way to UTF-8 and back.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,9 @@ bool IsAscii(std::string_view text) noexcept;
 
 // True if the text is well-formed UTF-8 (no overlong form, no surrogate, nothing above U+10FFFF).
 bool IsUtf8(std::string_view text) noexcept;
+
+// Number of characters of a UTF-8 text.
+std::size_t CharacterCount(std::string_view text) noexcept;
 
 std::string Windows1252ToUtf8(std::string_view bytes);
 

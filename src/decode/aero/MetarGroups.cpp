@@ -111,6 +111,7 @@ Verdict TryMiles(MetarWalk& walk, std::string_view word) {
     visibility = 6000;
     return Verdict::Taken;
   }
+  if (IsNotReported(word.substr(0, word.size() - 2))) return Verdict::Taken;
   double whole = 0;
   double part = Value(word);
   double divisor = 1;
@@ -164,21 +165,31 @@ bool IsDirectionRange(std::string_view word) noexcept {
   return Holds(word, "V") && IsNumeric(Mid(word, 1, 3)) && IsNumeric(Right(word, 3));
 }
 
+// The unit of wind speed that a word ends in.
+std::string_view UnitOfWind(std::string_view word) noexcept {
+  return Right(word, word.ends_with("KT") ? 2 : 3);
+}
+
 // dddffGfmfm with its unit, and the visibility or the directions that follow it. Only here a word
 // of four figures is a visibility.
 Verdict TryWind(MetarWalk& walk, std::string_view word) {
   if (word.starts_with("WS")) return Verdict::Declined;
   MetarRawSection& section = walk.Section();
+  // A part that begins in the unit is not there: 27010GKT has no gust.
+  const std::size_t unit = word.size() - UnitOfWind(word).size() + 1;
+  const auto part = [&](std::size_t start, std::size_t count) {
+    return start < unit ? Mid(word, start, count) : std::string_view{};
+  };
   Set(walk, Holds(word, "KT")    ? MetarFlag::WindKt
             : Holds(word, "KMH") ? MetarFlag::WindKmh
                                  : MetarFlag::WindMps);
   if (Holds(word, "VRB")) {
     Set(walk, MetarFlag::WindVariable);
-  } else if (!SetLenient(section.WindDir, Mid(word, 1, 3), 1, 10)) {
+  } else if (!SetLenient(section.WindDir, part(1, 3), 1, 10)) {
     return Verdict::Wrong;
   }
-  if (!SetStrict(section.WindSpeed, Mid(word, 4, 2))) return Verdict::Wrong;
-  if (Holds(word, "G") && !SetStrict(section.Gust, Mid(word, 7, 2))) return Verdict::Wrong;
+  if (!SetStrict(section.WindSpeed, part(4, 2))) return Verdict::Wrong;
+  if (Holds(word, "G") && !SetStrict(section.Gust, part(7, 2))) return Verdict::Wrong;
   if (walk.IsLastWord()) return Verdict::Taken;
 
   const std::string_view next = walk.Ahead();
