@@ -44,8 +44,7 @@ WorkFolder::WorkFolder() {
   // The program may have been started in the build tree and have filled the table.
   NullPrompt prompt;
   DBUtility database(prompt);
-  if (!database.ConnectDatabase(empty) || !database.Query("delete from MeteoStations") ||
-      !database.Query("vacuum")) {
+  if (!database.ConnectDatabase(empty) || !database.Query("delete from MeteoStations")) {
     error_ = "the station table cannot be emptied: " + database.Error();
   }
 }

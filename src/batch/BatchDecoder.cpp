@@ -71,6 +71,22 @@ void AppendFronts(DBUtility& database, std::string& out) {
       });
 }
 
+// Opens the database, builds its station table if it is empty, and reads it. Without a database the
+// runs go on and know no station. False on a fault of a station list that ends the program.
+bool LoadStations(const GenericUtility& parameters, const TextUtility& texts,
+                  const std::string& directory, LogList& log, Prompt& prompt,
+                  ConsoleProgress& progress, DBUtility& database, StationDirectory& stations) {
+  if (!database.ConnectDatabase(directory + "ICAOData.mdb")) return true;
+  const StationBuild build = BuildStationTable(
+      parameters, database, texts, log, progress, prompt, [&] {
+        log.Log(texts.Choose("Attendere Caricamento Dati ...", "Wait for Loading Data ..."));
+      });
+  progress.End();
+  if (build.Outcome == StationBuild::Result::Fatal) return false;
+  if (!stations.Load(database)) PrintError("zgdecode: " + database.Error());
+  return true;
+}
+
 // One file: as a run of its own with a decoder that knows nothing of the files before.
 struct BatchRun {
   const Options& options;
@@ -126,10 +142,8 @@ int RunBatch(const Options& options) {
 
   DBUtility database(prompt);
   StationDirectory stations;
-  if (database.ConnectDatabase(directory.Path + "ICAOData.mdb")) {
-    BuildStationTable(parameters, database, texts, log, progress, prompt);
-    progress.End();
-    stations.Load(database);
+  if (!LoadStations(parameters, texts, directory.Path, log, prompt, progress, database, stations)) {
+    return 1;
   }
 
   OutputStream out(options.Output);

@@ -1,6 +1,7 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -9,8 +10,9 @@
 #include "batch/Options.h"
 
 int main(int argc, char** argv) {
-  // A reader that goes away is an error of writing, told like any other.
+  // A reader that goes away and a file that may not grow are errors of writing, told like others.
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     const std::vector<std::string_view> arguments(argv + 1, argv + argc);
     const zg::Options options = zg::ParseOptions(arguments);

@@ -1,7 +1,5 @@
 #include "decode/BulletinText.h"
 
-#include <cstring>
-
 namespace zg {
 namespace {
 constexpr std::string_view AddedLineEnd = "\r\n";
@@ -41,13 +39,8 @@ bool LineReader::Next(std::string_view& line) noexcept {
     return true;
   }
   const std::string_view rest = bytes_.substr(position_, end_ - position_);
-  // Two searches in memory are faster than one loop over characters, and the second is bounded.
-  const auto* feed = static_cast<const char*>(std::memchr(rest.data(), '\n', rest.size()));
-  std::size_t length =
-      feed == nullptr ? rest.size() : static_cast<std::size_t>(feed - rest.data());
-  if (const void* found = std::memchr(rest.data(), '\r', length); found != nullptr) {
-    length = static_cast<std::size_t>(static_cast<const char*>(found) - rest.data());
-  }
+  std::size_t length = 0;
+  while (length < rest.size() && rest[length] != '\r' && rest[length] != '\n') ++length;
   line = rest.substr(0, length);
   const std::string_view behind = rest.substr(length);
   std::size_t ending = behind.empty() ? 0 : 1;

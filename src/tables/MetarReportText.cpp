@@ -11,6 +11,8 @@ namespace {
 
 // Each way in which a number of a METAR, SPECI or TAF becomes a text.
 enum class Rule : std::uint32_t {
+  DayAndTime,
+  Time,
   Celsius,
   CelsiusTable,
   Hour,
@@ -61,12 +63,14 @@ bool Has(std::int32_t flags, std::uint8_t position) noexcept {
   return (static_cast<std::uint32_t>(flags) >> position & 1U) != 0;
 }
 
-// "15/12:50Z" from ddhhmm, "12:50Z" from hhmm; nothing from anything else.
-std::string_view TimeText(std::string_view digits, TextArena& arena) {
+// "15/12:50Z" from ddhhmm, "12:50Z" from hhmm; nothing from another number of characters.
+std::string_view TimeText(std::string_view digits, Maker& make) {
   const std::size_t count = CharacterCount(digits);
-  if (count == 6) return arena.Copy(FormatText(digits, "00/00:00Z"));
-  if (count == 4) return arena.Copy(FormatText(digits, "00:00Z"));
-  return {};
+  if (count != 6 && count != 4) return {};
+  const std::string_view mask = count == 6 ? "00/00:00Z" : "00:00Z";
+  if (!IsDigits(digits)) return make.Arena().Copy(FormatText(digits, mask));
+  return make.Of(count == 6 ? Rule::DayAndTime : Rule::Time, static_cast<int>(Value(digits)),
+                 [&] { return FormatText(digits, mask); });
 }
 
 // "15/12:00Z - 18:00Z" from a period ddhhhh, "12:00Z - 18:00Z" from hhhh.
@@ -214,8 +218,8 @@ void StoreSection(const MetarRawSection& raw, std::int32_t flags, Maker& make,
 }
 
 void StoreHead(const MetarRawData& raw, Maker& make, MetarData& record) {
-  record.ObservationTime = TimeText(raw.ObservationTime, make.Arena());
-  record.BulletinTime = TimeText(raw.BulletinTime, make.Arena());
+  record.ObservationTime = TimeText(raw.ObservationTime, make);
+  record.BulletinTime = TimeText(raw.BulletinTime, make);
   record.ValidPeriod = PeriodText(raw.ValidPeriod, make.Arena());
   for (std::size_t i = 0; i < raw.ForecastTemperature.size(); ++i) {
     const std::uint8_t value = raw.ForecastTemperature[i];

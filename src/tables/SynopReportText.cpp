@@ -11,6 +11,7 @@ namespace {
 
 // Each way in which a number of a SYNOP message becomes a text.
 enum class Rule : std::uint32_t {
+  DayAndTime,
   Celsius,
   Pressure,
   WholePressure,
@@ -86,6 +87,14 @@ std::string_view WaveDirectionText(std::uint8_t value, Maker& make) {
   return make.Plain(Rule::WaveDirection, value * 10, " deg");
 }
 
+// "15/12:30Z" from YYGGgg.
+std::string_view DayAndTimeText(std::string_view value, Maker& make) {
+  constexpr std::string_view mask = "00/00:00Z";
+  if (!IsDigits(value)) return make.Arena().Copy(FormatText(value, mask));
+  return make.Of(Rule::DayAndTime, static_cast<int>(Value(value)),
+                 [&] { return FormatText(value, mask); });
+}
+
 // "12:30Z" from GGgg.
 std::string_view ClockText(std::string_view value, Maker& make) {
   return IsMissing(value) ? std::string_view{} : make.Arena().Copy(FormatText(value, "00:00Z"));
@@ -128,7 +137,7 @@ void StoreSkyAndWind(const SynopRawData& raw, Maker& make, SynopData& record) {
   const TextUtility& tables = make.Tables();
   StoreCode(raw.StationType, &TextUtility::StationType, tables, record.StationType,
             record.StationTypeCode);
-  record.IssueTime = make.Arena().Copy(FormatText(raw.IssueTime, "00/00:00Z"));
+  record.IssueTime = DayAndTimeText(raw.IssueTime, make);
   record.TimeOfObservation = ClockText(raw.TimeOfObservation, make);
   if (!IsMissing(raw.LowestCloud)) {
     record.LowestCloud = make.Of(Rule::LowestCloud, raw.LowestCloud, [&] {
