@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::string_view CircuitLineEnd = "\r\r\n";
 constexpr std::size_t CircuitLineLength = 69;
+constexpr std::size_t LeastLineLength = 4;
 constexpr std::string_view Indent = "     ";
 constexpr int UsPercent = 30;
 
@@ -150,12 +151,14 @@ class FileGenerator {
   void AppendLine(std::string_view line) { file_.append(line).append(CircuitLineEnd); }
 
   // Breaks a report at its line feeds, and at blanks where a line gets too long. Every line but the
-  // first is indented.
+  // first is indented. A last word of less than four characters is not left alone: such a line
+  // would be taken for filling between reports.
   void AppendWrapped(std::string_view report) {
     std::string line;
     while (!report.empty()) {
       const std::size_t end = std::min(report.find_first_of(" \n"), report.size());
-      if (line.size() + end > CircuitLineLength) {
+      const bool shortEnd = end == report.size() && end < LeastLineLength;
+      if (line.size() + end > CircuitLineLength && !shortEnd) {
         line.pop_back();
         AppendLine(line);
         line = Indent;

@@ -34,6 +34,13 @@ void PrintCell(std::ostream& out, double value, int decimals, int width) {
 
 }  // namespace
 
+ReportTable::ReportTable(const std::vector<std::string>& names) {
+  for (const std::string& name : names) {
+    const std::size_t slash = name.rfind('/');
+    AddOnce(slash == std::string::npos ? works_ : files_, name.substr(0, slash));
+  }
+}
+
 bool ReportTable::ReportContext(const Context& context) {
   PrintBasicContext(&GetErrorStream(), context);
 #ifndef __OPTIMIZE__
@@ -51,9 +58,6 @@ void ReportTable::ReportRuns(const std::vector<Run>& runs) {
       failed_ = true;
       continue;
     }
-    const std::size_t slash = name.rfind('/');
-    const bool isFile = slash != std::string::npos;
-    AddOnce(isFile ? files_ : works_, name.substr(0, slash));
     auto& samples = samples_[name];
     for (const auto& [counter, value] : run.counters) samples[counter].push_back(value);
     samples[std::string(Milliseconds)].push_back(run.GetAdjustedRealTime() * 1000 /
@@ -72,7 +76,16 @@ double ReportTable::Median(const std::string& name, std::string_view counter) co
   return *middle;
 }
 
+bool ReportTable::HasFile(std::string_view file) const {
+  const auto hasMeasure = [&](std::string_view measure) {
+    return samples_.contains(NameOf(file, measure));
+  };
+  return hasMeasure(YardstickMeasure) || hasMeasure(DecodeMeasure) || hasMeasure(JsonMeasure);
+}
+
 void ReportTable::Finalize() {
+  std::erase_if(files_, [this](const std::string& file) { return !HasFile(file); });
+  std::erase_if(works_, [this](const std::string& work) { return !samples_.contains(work); });
   if (!files_.empty()) PrintFiles();
   if (!works_.empty()) PrintTimes();
   GetOutputStream().flush();

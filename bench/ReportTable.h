@@ -24,6 +24,10 @@ inline constexpr const char* RecordBytesCounter = "record_bytes";
 
 class ReportTable : public benchmark::BenchmarkReporter {
  public:
+  // `names` of all benchmarks in the order of the rows; results come in any order, and what was not
+  // measured has no row.
+  explicit ReportTable(const std::vector<std::string>& names);
+
   bool ReportContext(const Context& context) override;
   void ReportRuns(const std::vector<Run>& runs) override;
   void Finalize() override;
@@ -36,10 +40,11 @@ class ReportTable : public benchmark::BenchmarkReporter {
   using Samples = std::vector<double>;
 
   double Median(const std::string& name, std::string_view counter) const;
+  bool HasFile(std::string_view file) const;
   void PrintFiles();
   void PrintTimes();
 
-  std::vector<std::string> files_;  // in the order of their first results
+  std::vector<std::string> files_;
   std::vector<std::string> works_;
   std::map<std::string, std::map<std::string, Samples, std::less<>>, std::less<>> samples_;
   bool failed_ = false;

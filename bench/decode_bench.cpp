@@ -266,9 +266,13 @@ std::string NameOfMeasure(const BulletinFile& file, std::string_view measure) {
   return std::string(file.Name).append("/").append(measure);
 }
 
-void RegisterBenchmarks(const std::vector<BulletinFile>& files, const WorkFolder& folder,
-                        const StationDirectory& stations) {
-  const auto add = [](const std::string& name, auto measure) {
+// The names of all benchmarks.
+std::vector<std::string> RegisterBenchmarks(const std::vector<BulletinFile>& files,
+                                            const WorkFolder& folder,
+                                            const StationDirectory& stations) {
+  std::vector<std::string> names;
+  const auto add = [&names](const std::string& name, auto measure) {
+    names.push_back(name);
     return benchmark::RegisterBenchmark(name.c_str(), measure)->Unit(benchmark::kMillisecond);
   };
   for (const BulletinFile& file : files) {
@@ -289,6 +293,7 @@ void RegisterBenchmarks(const std::vector<BulletinFile>& files, const WorkFolder
   add("build the station table", [&folder](benchmark::State& state) {
     MeasureTableBuild(state, folder);
   })->UseRealTime();
+  return names;
 }
 
 int RunBenchmarks(int argc, char** argv) {
@@ -311,8 +316,7 @@ int RunBenchmarks(int argc, char** argv) {
     std::cerr << "zg_bench: " << arguments.Error << "\n";
     return 2;
   }
-  RegisterBenchmarks(files, folder, stations);
-  ReportTable table;
+  ReportTable table(RegisterBenchmarks(files, folder, stations));
   benchmark::RunSpecifiedBenchmarks(&table);
   benchmark::Shutdown();
   return table.Failed() ? 1 : 0;

@@ -77,8 +77,8 @@ bool LoadStations(const GenericUtility& parameters, const TextUtility& texts,
                   const std::string& directory, LogList& log, Prompt& prompt,
                   ConsoleProgress& progress, DBUtility& database, StationDirectory& stations) {
   if (!database.ConnectDatabase(directory + "ICAOData.mdb")) return true;
-  const StationBuild build = BuildStationTable(
-      parameters, database, texts, log, progress, prompt, [&] {
+  const StationBuild build =
+      BuildStationTable(parameters, database, texts, log, progress, prompt, [&] {
         log.Log(texts.Choose("Attendere Caricamento Dati ...", "Wait for Loading Data ..."));
       });
   progress.End();
@@ -124,10 +124,10 @@ struct BatchRun {
 }  // namespace
 
 int RunBatch(const Options& options) {
-  ApplicationDirectory directory = options.ApplicationDirectory.empty()
-                                       ? FindApplicationDirectory()
-                                       : ApplicationDirectory{WithSeparator(
-                                             options.ApplicationDirectory), {}};
+  ApplicationDirectory directory =
+      options.ApplicationDirectory.empty()
+          ? FindApplicationDirectory()
+          : ApplicationDirectory{WithSeparator(options.ApplicationDirectory), {}};
   if (!directory.Error.empty()) PrintError("zgdecode: " + directory.Error);
 
   ConsoleLog log;
@@ -155,15 +155,15 @@ int RunBatch(const Options& options) {
                         .Stores = stores,
                         .Log = log,
                         .Observer = records};
-  BatchRun run{.options = options,
-               .context = context,
-               .database = database,
-               .prompt = prompt,
-               .clock = clock,
-               .progress = progress,
-               .settings = {.ApplicationPath = directory.Path,
-                            .MaxMessages = ReadMaxMessages(parameters)},
-               .output = records};
+  BatchRun run{
+      .options = options,
+      .context = context,
+      .database = database,
+      .prompt = prompt,
+      .clock = clock,
+      .progress = progress,
+      .settings = {.ApplicationPath = directory.Path, .MaxMessages = ReadMaxMessages(parameters)},
+      .output = records};
   bool allRead = true;
   bool fronts = false;
   for (const std::string& file : options.Files) allRead = run.Decode(file, fronts) && allRead;

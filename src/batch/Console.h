@@ -1,5 +1,5 @@
-// The program's interfaces to a user, on a terminal: log lines, messages and progress go to standard
-// error.
+// The program's interfaces to a user, on a terminal: log lines, messages and progress go to
+// standard error.
 #pragma once
 
 #include <string>

@@ -39,6 +39,16 @@ struct Count {
   std::int16_t (Record::*count)() const noexcept;
 };
 
+// clang 14 deduces the arguments of aggregates with these only.
+template <typename Record, typename T>
+Field(std::string_view, T Record::*) -> Field<Record, T>;
+template <typename Record, typename T>
+Row(std::string_view, T Record::*) -> Row<Record, T>;
+template <typename Record, typename T>
+Padded(std::string_view, T Record::*, std::size_t) -> Padded<Record, T>;
+template <typename Record>
+Count(std::string_view, std::int16_t (Record::*)() const noexcept) -> Count<Record>;
+
 // The keys of each record in their order.
 #define ZG_FIELD(Record, name) \
   Field { #name, &Record::name }

@@ -17,9 +17,9 @@ std::string_view MessageTypeName(MessageType type) noexcept;
 // those of the code forms.
 struct BulletinMessage {
   MessageType Type = MessageType::Unknown;
-  std::string_view Text;                    // heading and report with the closing "="
-  std::vector<std::string_view> WordList;   // its words without the "="
-  bool HasHeading = true;                   // the first three words are TTAAii CCCC YYGGgg
+  std::string_view Text;                   // heading and report with the closing "="
+  std::vector<std::string_view> WordList;  // its words without the "="
+  bool HasHeading = true;                  // the first three words are TTAAii CCCC YYGGgg
   // Index of the word where the report starts: the station of a METAR, SPECI or TAF. 0 without a
   // heading and type word.
   std::size_t HeaderEnd = 0;

@@ -125,8 +125,7 @@ BulletinScanner::Step BulletinScanner::TakeIdleLine(std::string_view line, bool 
     StartHeading(line);
     return Step::GoOn;
   }
-  const bool mayBeTypeLine =
-      !HasBulletinHeading() && (headerText_.empty() || messageText_.empty());
+  const bool mayBeTypeLine = !HasBulletinHeading() && (headerText_.empty() || messageText_.empty());
   if (mayBeTypeLine && SynopTypeOfWord(FirstWord(line)) != MessageType::Unknown) {
     if (!messageText_.empty()) Print(messageText_);  // it belongs to no report
     messageText_.clear();
@@ -311,10 +310,10 @@ bool BulletinScanner::SplitAndDispatch() {
     message_.WordList.push_back(text.substr(at, end - at));
     at = end;
   }
-  message_.HasHeading = IsSynop(messageType_)
-                            ? message_.WordList.empty() ||
-                                  message_.WordList[0] != MessageTypeName(messageType_)
-                            : !start_.TypeWordFirst && message_.HeaderEnd > 0;
+  message_.HasHeading =
+      IsSynop(messageType_)
+          ? message_.WordList.empty() || message_.WordList[0] != MessageTypeName(messageType_)
+          : !start_.TypeWordFirst && message_.HeaderEnd > 0;
   if (messageType_ == MessageType::SIGMET) {
     if (messageSeq_ != 0) {
       log_.Log(std::string(textUtility_.Choose("Tipo di messaggio non riconosciuto alla linea ",
@@ -327,8 +326,8 @@ bool BulletinScanner::SplitAndDispatch() {
 }
 
 void BulletinScanner::LogAtLine(std::string_view italian, std::string_view english) {
-  log_.Log(std::string(textUtility_.Choose(italian, english)) + "Line: " +
-           PlainDecimal(lineCount_));
+  log_.Log(std::string(textUtility_.Choose(italian, english)) +
+           "Line: " + PlainDecimal(lineCount_));
 }
 
 void BulletinScanner::Print(std::string_view text) {

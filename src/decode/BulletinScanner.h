@@ -1,10 +1,10 @@
 // The scanner: takes a bulletin stream line by line, finds the messages in it and hands each one,
-// cut into words, to a decoder. It knows headings, message types and ends of reports, and nothing of
-// the groups inside a report.
+// cut into words, to a decoder. It knows headings, message types and ends of reports, and nothing
+// of the groups inside a report.
 //
-// A report ends at a line that ends in "=", at the blank line behind a time stamp, or, for a frontal
-// analysis, at NNNN. Its lines are joined by one blank. The heading of a bulletin serves all its
-// reports, and so does an AAXX or BBXX line, with or without a heading above it.
+// A report ends at a line that ends in "=", at the blank line behind a time stamp, or, for a
+// frontal analysis, at NNNN. Its lines are joined by one blank. The heading of a bulletin serves
+// all its reports, and so does an AAXX or BBXX line, with or without a heading above it.
 #pragma once
 
 #include <cstddef>

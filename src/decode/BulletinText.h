@@ -32,8 +32,8 @@ class LineReader {
  private:
   std::string_view bytes_;
   std::size_t position_ = 0;
-  std::size_t end_;          // end of the lines that are cut in the ordinary way
-  bool extraLine_ = false;   // the added line end is still to be read
+  std::size_t end_;         // end of the lines that are cut in the ordinary way
+  bool extraLine_ = false;  // the added line end is still to be read
 };
 
 }  // namespace zg

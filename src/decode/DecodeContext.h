@@ -108,7 +108,8 @@ constexpr std::uint8_t QuadrantFilterBit(int quadrant) noexcept {
   }
 }
 
-// The flag of a quadrant in FilterFlags, the same for all records; call for the four quadrants only.
+// The flag of a quadrant in FilterFlags, the same for all records; call for the four quadrants
+// only.
 constexpr unsigned QuadrantFlag(int quadrant) noexcept {
   switch (quadrant) {
     case 1:

@@ -29,11 +29,11 @@ bool IsValidTime(std::string_view word) noexcept;
 
 // Where the report of a METAR, SPECI or TAF starts in a text.
 struct ReportStart {
-  bool Searched = false;                     // false: the text has not the look of a report at all
+  bool Searched = false;  // false: the text has not the look of a report at all
   bool Found = false;
-  std::size_t Position = 0;                  // of the station, from 0
-  MessageType Type = MessageType::Unknown;   // what the look of the report tells of its type
-  bool TypeWordFirst = false;                // no heading: the text begins with METAR, SPECI or TAF
+  std::size_t Position = 0;                 // of the station, from 0
+  MessageType Type = MessageType::Unknown;  // what the look of the report tells of its type
+  bool TypeWordFirst = false;               // no heading: the text begins with METAR, SPECI or TAF
 };
 
 // Finds the station: a word of four characters followed by what follows a station (a time, a

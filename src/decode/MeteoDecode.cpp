@@ -33,9 +33,9 @@ MeteoDecode::MeteoDecode(MeteoDecodeSettings settings, DecodeContext& context, D
       metarDecoder_(context),
       synopDecoder_(context) {
   if (settings_.MaxMessages > LargestMaxMessages) {
-    context_.Log.Log(std::string(context_.Texts().Choose("MaxMessages ridotto a ",
-                                                         "MaxMessages cut to ")) +
-                     PlainDecimal(LargestMaxMessages));
+    context_.Log.Log(
+        std::string(context_.Texts().Choose("MaxMessages ridotto a ", "MaxMessages cut to ")) +
+        PlainDecimal(LargestMaxMessages));
     settings_.MaxMessages = LargestMaxMessages;
   }
 }
@@ -47,26 +47,27 @@ MeteoDecode::Summary MeteoDecode::DecodeFile(const std::string& fileName) {
     Fail(file.Error);
     return std::exchange(summary_, {});
   }
-  const bool repair = NeedsLineFeedRepair(file.Bytes);
-  if (!repair || !settings_.RewriteFiles) return DecodeBytes(fileName, std::move(file.Bytes));
-  context_.Log.Log(
-      context_.Texts().Choose("Formattazione ... Attendere!", "Formatting ... Wait!"));
-  RepairLineFeeds(file.Bytes);
-  AtomicFile repaired(fileName);
-  if (!repaired.Write(file.Bytes) || !repaired.Commit()) {
-    context_.Log.Log(repaired.Error());  // the bytes in memory are good all the same
+  const bool repaired = Repair(file.Bytes);
+  if (repaired && settings_.RewriteFiles) {
+    AtomicFile rewritten(fileName);
+    if (!rewritten.Write(file.Bytes) || !rewritten.Commit()) {
+      context_.Log.Log(rewritten.Error());  // the bytes in memory are good all the same
+    }
   }
-  return Run(fileName, std::move(file.Bytes), true);
+  return Run(fileName, std::move(file.Bytes), repaired);
 }
 
 MeteoDecode::Summary MeteoDecode::DecodeBytes(std::string_view name, std::string bytes) {
-  const bool repair = NeedsLineFeedRepair(bytes);
-  if (repair) {
-    context_.Log.Log(
-        context_.Texts().Choose("Formattazione ... Attendere!", "Formatting ... Wait!"));
-    RepairLineFeeds(bytes);
-  }
-  return Run(name, std::move(bytes), repair);
+  const bool repaired = Repair(bytes);
+  return Run(name, std::move(bytes), repaired);
+}
+
+// Repairs line ends where that is due; true if it was.
+bool MeteoDecode::Repair(std::string& bytes) {
+  if (!NeedsLineFeedRepair(bytes)) return false;
+  context_.Log.Log(context_.Texts().Choose("Formattazione ... Attendere!", "Formatting ... Wait!"));
+  RepairLineFeeds(bytes);
+  return true;
 }
 
 void MeteoDecode::StartRun(bool singleMessage) {
@@ -82,17 +83,13 @@ MeteoDecode::Summary MeteoDecode::Run(std::string_view name, std::string bytes, 
   summary_.Bytes = static_cast<std::int64_t>(bytes.size());
   if (bytes.empty()) return std::exchange(summary_, {});
 
-  const std::string folder = settings_.ApplicationPath + "WrongFiles";
-  mkdir(folder.c_str(), 0777);  // where it is there already that is as good
-  wrongFile_ =
-      std::make_unique<AtomicFile>(folder + "/" + std::string(NameOfPath(name)) + ".Wrong");
+  OpenWrongFile(name);
   context_.Log.Log(std::string(context_.Texts().Choose("Decodifica ... ", "Decoding ... ")) +
                    std::string(name) + " (" + std::to_string(bytes.size()) + "Bytes)");
   progress_.Begin(summary_.Bytes);
   ReadLines(bytes, repaired);
   summary_.Lines = scanner_.LineCount();
-  if (!wrongFile_->Commit()) Fail(wrongFile_->Error());
-  wrongFile_.reset();
+  CloseWrongFile();
   if (context_.Texts().IsItalian()) {
     context_.Log.Log("Chiusura File: " + std::string(name));
   } else {
@@ -100,6 +97,20 @@ MeteoDecode::Summary MeteoDecode::Run(std::string_view name, std::string bytes, 
   }
   storeFamily_ = Family::None;
   return std::exchange(summary_, {});
+}
+
+void MeteoDecode::OpenWrongFile(std::string_view name) {
+  if (!settings_.KeepWrongLines) return;
+  const std::string folder = settings_.ApplicationPath + "WrongFiles";
+  mkdir(folder.c_str(), 0777);  // where it is there already that is as good
+  wrongFile_ =
+      std::make_unique<AtomicFile>(folder + "/" + std::string(NameOfPath(name)) + ".Wrong");
+}
+
+void MeteoDecode::CloseWrongFile() {
+  if (!wrongFile_) return;
+  if (!wrongFile_->Commit()) Fail(wrongFile_->Error());
+  wrongFile_.reset();
 }
 
 void MeteoDecode::ReadLines(std::string_view bytes, bool repaired) {
@@ -184,10 +195,10 @@ bool MeteoDecode::ClaimStore(Family family) {
 void MeteoDecode::CountStored() {
   ++summary_.DecodedCount;
   if (summary_.DecodedCount < settings_.MaxMessages) return;
-  context_.Log.Log(PlainDecimal(summary_.DecodedCount) +
-                   std::string(context_.Texts().Choose(
-                       " Msg: Numero Massimo di messaggi raggiunto.",
-                       " Msg: Max Message number reached.")));
+  context_.Log.Log(
+      PlainDecimal(summary_.DecodedCount) +
+      std::string(context_.Texts().Choose(" Msg: Numero Massimo di messaggi raggiunto.",
+                                          " Msg: Max Message number reached.")));
   stopRequested_ = true;
 }
 
@@ -203,8 +214,8 @@ void MeteoDecode::StoreFronts(const BulletinMessage& message) {
          row.Lat, row.Long});
   }
   if (complete) {
-    context_.Log.Log(context_.Texts().Choose("Database dei Fronti Aggiornato!",
-                                             "Fronts Database Updated!"));
+    context_.Log.Log(
+        context_.Texts().Choose("Database dei Fronti Aggiornato!", "Fronts Database Updated!"));
   } else {
     LogAtLine(context_, "Posizione del centro mancante; Line: ",
               "Position of the centre missing; Line: ", message.LineCount);

@@ -25,7 +25,8 @@ inline constexpr std::int32_t LargestMaxMessages = 32767;
 struct MeteoDecodeSettings {
   std::string ApplicationPath;  // ends in "/"; "WrongFiles/" lies under it
   std::int32_t MaxMessages = LargestMaxMessages;
-  bool RewriteFiles = true;  // a file with bare line feeds is repaired on the disk too
+  bool RewriteFiles = true;    // a file with bare line feeds is repaired on the disk too
+  bool KeepWrongLines = true;  // lines that make no message go to a wrong-line file
 };
 
 class MeteoDecode : private ScannerClient {
@@ -72,6 +73,7 @@ class MeteoDecode : private ScannerClient {
   void PrintWrongLine(std::string_view line) override;
   void ResetFronts() override;
 
+  bool Repair(std::string& bytes);
   void StartRun(bool singleMessage);
   Summary Run(std::string_view name, std::string bytes, bool repaired);
   bool ClaimStore(Family family);
@@ -79,6 +81,8 @@ class MeteoDecode : private ScannerClient {
   void StoreFronts(const BulletinMessage& message);
   void ReadLines(std::string_view bytes, bool repaired);
   void LogSpeed(std::int64_t position, std::int64_t milliseconds);
+  void OpenWrongFile(std::string_view name);
+  void CloseWrongFile();
   void Fail(const std::string& text);
 
   MeteoDecodeSettings settings_;

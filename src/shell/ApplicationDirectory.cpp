@@ -47,12 +47,12 @@ ApplicationDirectory FindApplicationDirectory() {
   fs::create_directories(folder, error);
   if (!error && !fs::exists(folder / Settings, error)) {
     if (!fs::is_directory(installed, error)) {
-      return {WithSeparator(folder.string()),
-              "No settings: neither " + (folder / Settings).string() + " nor " +
-                  installed.string() + " is there"};
+      return {WithSeparator(folder.string()), "No settings: neither " +
+                                                  (folder / Settings).string() + " nor " +
+                                                  installed.string() + " is there"};
     }
-    fs::copy(installed, folder,
-             fs::copy_options::recursive | fs::copy_options::skip_existing, error);
+    fs::copy(installed, folder, fs::copy_options::recursive | fs::copy_options::skip_existing,
+             error);
   }
   if (error) return {WithSeparator(folder.string()), folder.string() + ": " + error.message()};
   return {WithSeparator(folder.string()), {}};

@@ -11,9 +11,9 @@ struct ApplicationDirectory {
 };
 
 // The folder of the executable if it holds "zephyrgram.ini" and can be written: portable use, and
-// the build tree. Else "zephyrgram" under the user's data folder (XDG_DATA_HOME, or ~/.local/share),
-// made and filled from the installed data, "../share/zephyrgram" beside the folder of the
-// executable, where files are missing. Files that are there are never touched.
+// the build tree. Else "zephyrgram" under the user's data folder (XDG_DATA_HOME, or
+// ~/.local/share), made and filled from the installed data, "../share/zephyrgram" beside the folder
+// of the executable, where files are missing. Files that are there are never touched.
 ApplicationDirectory FindApplicationDirectory();
 
 // A path given by the user as an application directory: with a "/" at its end.

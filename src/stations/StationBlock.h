@@ -19,11 +19,11 @@ struct StationBlock {
   std::optional<float> LongPosition;  // tenths of a degree, east positive
   std::string_view StationHT;         // metres, at least four digits
   std::string_view SensorHT;
-  std::optional<int> Quadrant;  // quadrant of the globe Qc: 1, 3, 5, 7 (WMO code table 3333)
-  std::string_view MsgId;       // TTAAii of the bulletin
-  std::string_view Type;        // AAXX, BBXX, METAR, SPECI or TAF
-  std::string_view Sender;      // CCCC of the bulletin
-  std::string_view AddedInfo;   // BBB of the bulletin
+  std::optional<int> Quadrant;   // quadrant of the globe Qc: 1, 3, 5, 7 (WMO code table 3333)
+  std::string_view MsgId;        // TTAAii of the bulletin
+  std::string_view Type;         // AAXX, BBXX, METAR, SPECI or TAF
+  std::string_view Sender;       // CCCC of the bulletin
+  std::string_view AddedInfo;    // BBB of the bulletin
   std::int32_t StationKind = 0;  // 1 land, 2 ship, 3 buoy; set in the stored record
 };
 

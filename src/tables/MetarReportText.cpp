@@ -97,9 +97,8 @@ std::string_view CelsiusText(float value, Maker& make) {
 }
 
 std::string_view FeetText(std::int32_t hundreds, Maker& make) {
-  return make.Converted(Rule::HundredFeet, UnitKind::Level, hundreds, [&] {
-    return PlainDecimal(static_cast<double>(hundreds) * 100) + " ft";
-  });
+  return make.Converted(Rule::HundredFeet, UnitKind::Level, hundreds,
+                        [&] { return PlainDecimal(static_cast<double>(hundreds) * 100) + " ft"; });
 }
 
 // Hundredths of an inch as millimetres of water.
@@ -225,9 +224,9 @@ void StoreHead(const MetarRawData& raw, Maker& make, MetarData& record) {
     const std::uint8_t value = raw.ForecastTemperature[i];
     const std::uint8_t hour = raw.ForecastTemperatureHour[i];
     if (!IsMissing(value)) {
-      record.ForecastTemperature[i] = make.Converted(
-          Rule::CelsiusTable, UnitKind::Temperature, value,
-          [&] { return PlainDecimal(value - 100) + " °C"; });
+      record.ForecastTemperature[i] =
+          make.Converted(Rule::CelsiusTable, UnitKind::Temperature, value,
+                         [&] { return PlainDecimal(value - 100) + " °C"; });
     }
     if (!IsMissing(hour)) {
       record.ForecastTemperatureTime[i] =
@@ -259,8 +258,7 @@ void StoreWholeMessage(const MetarRawData& raw, Maker& make, MetarData& record) 
     record.WindShearDir = make.Masked(Rule::Degrees, raw.WindShearDir, "000 deg");
   }
   if (!IsMissing(raw.WindShearSpeed)) {
-    record.WindShearSpeed =
-        make.Quantity(Rule::Knots, UnitKind::Speed, raw.WindShearSpeed, " kt");
+    record.WindShearSpeed = make.Quantity(Rule::Knots, UnitKind::Speed, raw.WindShearSpeed, " kt");
   }
   record.OtherRemarks = make.Arena().Copy(raw.OtherRemarks);
   record.WindRemarks = make.Arena().Copy(raw.WindRemarks);
@@ -312,8 +310,7 @@ void ApplyFlags(const MetarRawData& raw, Maker& make, MetarSection& report, Meta
   }
   if (Has(flags, MetarFlag::Clr)) {
     record.VerticalVisibility = make.Converted(Rule::ClearBelow, UnitKind::Level, 0, [&] {
-      return std::string(
-          tables.Choose("Nessuna nube sotto 12000 ft", "No Clouds under 12000 ft"));
+      return std::string(tables.Choose("Nessuna nube sotto 12000 ft", "No Clouds under 12000 ft"));
     });
     record.VerticalVisibilityCopy = "CLR";
   }
@@ -326,9 +323,9 @@ void ApplyFlags(const MetarRawData& raw, Maker& make, MetarSection& report, Meta
     report.CloudCover[0] = tables.Choose("Nubi non significative", "No Significant Clouds");
   }
   if (Has(flags, MetarFlag::WindShear)) {
-    const std::string text = std::string(record.WindRemarks) +
-                             std::string(tables.Choose(" Conditione di Wind-Shear",
-                                                       " Wind-Shear Condition"));
+    const std::string text =
+        std::string(record.WindRemarks) +
+        std::string(tables.Choose(" Conditione di Wind-Shear", " Wind-Shear Condition"));
     record.WindRemarks = make.Arena().Copy(Trim(text));
   }
 }
@@ -343,8 +340,8 @@ std::string ComposeWeatherField(std::uint32_t mask, const TextUtility& textUtili
   return std::string(Trim(text));
 }
 
-const MetarData& StoreMetarRecord(const MetarRawData& raw, int stationRow,
-                                  const ReportUnits& units, MessageStore<MetarData>& store) {
+const MetarData& StoreMetarRecord(const MetarRawData& raw, int stationRow, const ReportUnits& units,
+                                  MessageStore<MetarData>& store) {
   StoreTexts& texts = store.Texts();
   Maker make(units, texts);
   MetarData& record = store.Add();

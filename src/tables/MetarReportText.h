@@ -17,7 +17,7 @@ std::string ComposeWeatherField(std::uint32_t mask, const TextUtility& textUtili
 
 // Adds a record to the store, made from the working record. `stationRow` is the number of the
 // directory row of the station, -1 without one. What is missing leaves its text empty.
-const MetarData& StoreMetarRecord(const MetarRawData& raw, int stationRow,
-                                  const ReportUnits& units, MessageStore<MetarData>& store);
+const MetarData& StoreMetarRecord(const MetarRawData& raw, int stationRow, const ReportUnits& units,
+                                  MessageStore<MetarData>& store);
 
 }  // namespace zg

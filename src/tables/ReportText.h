@@ -20,7 +20,8 @@ struct ReportUnits {
   const ConversionUtility& Conversion;
 };
 
-// Makes the texts of one store. `Rule` is an enumeration with a value for each way of making a text.
+// Makes the texts of one store. `Rule` is an enumeration with a value for each way of making a
+// text.
 template <typename Rule>
 class ReportTextMaker {
  public:

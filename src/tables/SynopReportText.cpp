@@ -127,8 +127,9 @@ std::string_view WindSpeedText(std::uint8_t speed, std::uint8_t indicator, Maker
   }};
   for (const Suffix& suffix : Suffixes) {
     if (suffix.indicator != indicator) continue;
-    return make.Converted(Rule::WindSpeed, UnitKind::Speed, indicator * 256 + speed,
-                          [&] { return PlainDecimal(static_cast<int>(speed)).append(suffix.text); });
+    return make.Converted(Rule::WindSpeed, UnitKind::Speed, indicator * 256 + speed, [&] {
+      return PlainDecimal(static_cast<int>(speed)).append(suffix.text);
+    });
   }
   return {};
 }
@@ -141,8 +142,7 @@ void StoreSkyAndWind(const SynopRawData& raw, Maker& make, SynopData& record) {
   record.TimeOfObservation = ClockText(raw.TimeOfObservation, make);
   if (!IsMissing(raw.LowestCloud)) {
     record.LowestCloud = make.Of(Rule::LowestCloud, raw.LowestCloud, [&] {
-      return RemoveLeadingZeros(
-          make.Convert(tables.LowestCloud(raw.LowestCloud), UnitKind::Level));
+      return RemoveLeadingZeros(make.Convert(tables.LowestCloud(raw.LowestCloud), UnitKind::Level));
     });
     record.LowestCloudCode = raw.LowestCloud;
   }
@@ -178,8 +178,7 @@ void StoreTemperatureAndPressure(const SynopRawData& raw, Maker& make, SynopData
         make.Quantity(Rule::WholePressure, UnitKind::Pressure, raw.GeopotPressure, " hpa");
   }
   if (!IsMissing(raw.GeopotHeight)) {
-    record.GeopotHeight =
-        make.Quantity(Rule::WholeMetres, UnitKind::Level, raw.GeopotHeight, " m");
+    record.GeopotHeight = make.Quantity(Rule::WholeMetres, UnitKind::Level, raw.GeopotHeight, " m");
   }
   StoreCode(raw.PressTendency, &TextUtility::PressTendency, make.Tables(), record.PressTendency,
             record.PressTendencyCode);
@@ -270,8 +269,7 @@ void StoreClimate(const SynopRawData& raw, Maker& make, SynopData& record) {
   if (!IsMissing(raw.SnowDepth)) {
     record.SnowDepth = make.Masked(Rule::Centimetres, raw.SnowDepth, "00 cm");
   }
-  StoreCode(raw.SnowState, &TextUtility::SnowState, tables, record.SnowState,
-            record.SnowStateCode);
+  StoreCode(raw.SnowState, &TextUtility::SnowState, tables, record.SnowState, record.SnowStateCode);
   record.MaxTemperature = CelsiusText(raw.MaxTemperature, make);
   record.MinTemperature = CelsiusText(raw.MinTemperature, make);
   record.RegionalData1 = FreeText(raw.RegionalData1, make);
@@ -311,8 +309,7 @@ void StoreSeaWind(const SynopRawData& raw, Maker& make, SynopData& record) {
   for (std::size_t i = 0; i < ContinuousWinds; ++i) {
     if (raw.CountinuousWindRaw[i].empty()) continue;
     const std::string word = Utf8ToWindows1252(raw.CountinuousWindRaw[i]);  // one byte a character
-    record.CountinuousWindDir[i] =
-        make.Arena().Copy(Windows1252ToUtf8(Mid(word, 1, 3)) + " deg");
+    record.CountinuousWindDir[i] = make.Arena().Copy(Windows1252ToUtf8(Mid(word, 1, 3)) + " deg");
     record.CountinuousWindSpeed[i] = make.Arena().Copy(
         make.Convert(PlainDecimal(Value(Mid(word, 4, 3)) / 10) + " mps", UnitKind::Speed));
   }
@@ -320,8 +317,8 @@ void StoreSeaWind(const SynopRawData& raw, Maker& make, SynopData& record) {
 
 }  // namespace
 
-const SynopData& StoreSynopRecord(const SynopRawData& raw, int stationRow,
-                                  const ReportUnits& units, MessageStore<SynopData>& store) {
+const SynopData& StoreSynopRecord(const SynopRawData& raw, int stationRow, const ReportUnits& units,
+                                  MessageStore<SynopData>& store) {
   StoreTexts& texts = store.Texts();
   Maker make(units, texts);
   SynopData& record = store.Add();

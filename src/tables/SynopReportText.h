@@ -10,7 +10,7 @@ namespace zg {
 
 // Adds a record to the store, made from the working record. `stationRow` is the number of the
 // directory row of the station, -1 without one. What is missing leaves its text empty.
-const SynopData& StoreSynopRecord(const SynopRawData& raw, int stationRow,
-                                  const ReportUnits& units, MessageStore<SynopData>& store);
+const SynopData& StoreSynopRecord(const SynopRawData& raw, int stationRow, const ReportUnits& units,
+                                  MessageStore<SynopData>& store);
 
 }  // namespace zg

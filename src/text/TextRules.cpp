@@ -40,8 +40,8 @@ double ParseMeasured(std::string_view text) noexcept {
     }
   }
   double value = 0.0;
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value,
-                                      std::chars_format::fixed);
+  const auto result =
+      std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
   if (result.ec == std::errc::result_out_of_range) {
     return text[0] == '-' ? -std::numeric_limits<double>::max()
                           : std::numeric_limits<double>::max();
@@ -112,7 +112,7 @@ std::string Fill(Decimal number, std::string_view mask) {
 
   std::string result;
   if (number.negative && !IsAllZeros(number)) result += '-';
-  std::size_t place = 0;   // places of the whole part filled so far
+  std::size_t place = 0;  // places of the whole part filled so far
   std::size_t decimal = 0;
   for (std::size_t i = 0; i < mask.size(); ++i) {
     if (!isPlace(mask[i])) {

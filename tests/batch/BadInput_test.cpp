@@ -59,26 +59,33 @@ TEST_P(BadBytes, LeaveTheRestOfTheFileAlone) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, BadBytes,
-    testing::Values(
-        BytesCase{"Nothing", ""}, BytesCase{"RandomBytes", RandomBytes(1'000'000) + "\r\n"},
-        BytesCase{"Nuls", std::string(100'000, '\0') + "\r\n"},
-        BytesCase{"TenMegabytesOnOneLine", std::string(10'000'000, 'A') + "\r\n"},
-        BytesCase{"TenMegabytesOfBlanks", std::string(10'000'000, ' ') + "\r\n"},
-        BytesCase{"TenMegabytesOfEqualsSigns", std::string(10'000'000, '=') + "\r\n"},
-        BytesCase{"ReportOfAMillionWords",
-                  "SAIT31 LIIB 151250\r\nLIML 151250Z " + Repeated("27010KT ", 1'000'000) + "=\r\n",
-                  2},
-        BytesCase{"SynopOfAMillionWords",
-                  "SMIT01 LIIB 151200\r\nAAXX 15121\r\n16242 " + Repeated("/////  ", 1'000'000) +
-                      "=\r\nNNNN\r\n",
-                  2},
-        BytesCase{"WordsWithoutAnEnd", "SAIT31 LIIB 151250\r\n" + Repeated("LIML ", 1'000'000)},
-        BytesCase{"EightBitCharacters", "\xE0\xE8\xEC\xF2\xF9 \x80\x9F\xFF\xFE\r\n"},
-        BytesCase{"ByteOrderMark", "\xEF\xBB\xBF"},
-        BytesCase{"HeadingWithoutReports", "SAIT32 LIIB 151250\r\n"},
-        BytesCase{"ReportCutShort", "SAIT31 LIIB 151250\r\nLIML 1512\r\n"},
-        BytesCase{"EmptyReports", "SAIT31 LIIB 151250\r\n=\r\n=\r\n=\r\n"}),
+    testing::Values(BytesCase{"Nothing", ""},
+                    BytesCase{"RandomBytes", RandomBytes(1'000'000) + "\r\n"},
+                    BytesCase{"Nuls", std::string(100'000, '\0') + "\r\n"},
+                    BytesCase{"TenMegabytesOnOneLine", std::string(10'000'000, 'A') + "\r\n"},
+                    BytesCase{"TenMegabytesOfBlanks", std::string(10'000'000, ' ') + "\r\n"},
+                    BytesCase{"TenMegabytesOfEqualsSigns", std::string(10'000'000, '=') + "\r\n"},
+                    BytesCase{"ReportOfAMillionWords",
+                              "SAIT31 LIIB 151250\r\nLIML 151250Z " +
+                                  Repeated("27010KT ", 1'000'000) + "=\r\n",
+                              2},
+                    BytesCase{"WordsWithoutAnEnd",
+                              "SAIT31 LIIB 151250\r\n" + Repeated("LIML ", 1'000'000) + "\r\n"},
+                    BytesCase{"EightBitCharacters", "\xE0\xE8\xEC\xF2\xF9 \x80\x9F\xFF\xFE\r\n"},
+                    BytesCase{"HeadingWithoutReports", "SAIT32 LIIB 151250\r\n"},
+                    BytesCase{"ReportCutShort", "SAIT31 LIIB 151250\r\nLIML 1512\r\n"},
+                    BytesCase{"EmptyReports", "SAIT31 LIIB 151250\r\n=\r\n=\r\n=\r\n"}),
     [](const auto& test) { return test.param.name; });
+
+TEST(BadFile, SynopOfAMillionWordsIsARecord) {
+  const ApplicationFolder application;
+  const ProgramRun run =
+      RunZgdecode({"--app", application.Path(), "-"},
+                  "SMIT01 LIIB 151200\r\nAAXX 15121\r\n16242 " + Repeated("/////  ", 1'000'000) +
+                      "=\r\n06180 11465 " + "52705 10182 20121 30148 40154 54000=\r\nNNNN\r\n");
+  EXPECT_EQ(run.Status, 0);
+  EXPECT_EQ(CountRecords(run), 2);
+}
 
 TEST(BadFile, CutInsideTheReportGivesNoRecord) {
   const ApplicationFolder application;
@@ -295,9 +302,11 @@ TEST(LockedDatabase, IsToldAndMessagesAreDecodedWithoutStations) {
 TEST(Invocation, StandardInputIsAFile) {
   const ApplicationFolder application;
   application.BuildStations();
-  const ProgramRun run = RunZgdecode({"--app", application.Path(), "-", "-"}, GoodBulletin);
+  const ProgramRun run = RunZgdecode({"--app", application.Path(), "-"}, GoodBulletin);
   EXPECT_EQ(run.Status, 0);
-  EXPECT_EQ(CountRecords(run), 1) << "the second one is at its end";
+  EXPECT_EQ(CountRecords(run), 1);
+  EXPECT_TRUE(Holds(run.Errors, "Decoding ... - (75Bytes)")) << run.Errors;
+  ASSERT_EQ(access((application / "WrongFiles/-.Wrong").c_str(), F_OK), 0);
   EXPECT_EQ(ReadTestFile(application / "WrongFiles/-.Wrong"), "");
 }
 

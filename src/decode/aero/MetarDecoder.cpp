@@ -42,8 +42,8 @@ MetarDecoder::Outcome MetarDecoder::DecodeMetarMessage(const BulletinMessage& me
   LoadStationRecord(row, raw_.Station);
   if (!PassesFilters(message.SingleMessage)) return Reject(false);
   if (raw_.Station.Station.empty()) {
-    context_.Log.Log(context_.Texts().Choose("Stazione Meteo sconosciuta: ",
-                                             "Unknown Meteo Station: "));
+    context_.Log.Log(
+        context_.Texts().Choose("Stazione Meteo sconosciuta: ", "Unknown Meteo Station: "));
     return Reject(!message.SingleMessage);
   }
   raw_.Accepted = 0;
@@ -66,8 +66,7 @@ void MetarDecoder::DecodeHeading(const BulletinMessage& message) {
   if (message.HasHeading) {
     raw_.Station.MsgId = scratch_.Text(words[0]);
     raw_.Station.Sender = scratch_.Text(wordIndex_ > 1 ? words[1] : std::string_view{});
-    raw_.BulletinTime =
-        wordIndex_ > 2 ? scratch_.Text(Mid(words[2], 1, 6)) : std::string_view{};
+    raw_.BulletinTime = wordIndex_ > 2 ? scratch_.Text(Mid(words[2], 1, 6)) : std::string_view{};
     for (std::size_t i = 3; i < wordIndex_ && raw_.Station.AddedInfo.empty(); ++i) {
       if (!Holds(words[i], "TAF") && !Holds(words[i], "METAR") && !Holds(words[i], "SPECI")) {
         raw_.Station.AddedInfo = scratch_.Text(words[i]);

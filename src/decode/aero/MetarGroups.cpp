@@ -99,8 +99,7 @@ Verdict TryWholeMiles(MetarWalk& walk, std::string_view word) {
 
 Verdict TryKilometres(MetarWalk& walk, std::string_view word) {
   Set(walk, MetarFlag::VisibilityMetres);
-  return TakenIf(
-      SetLenient(walk.Section().OrizVisibility, word.substr(0, word.size() - 2), 1000));
+  return TakenIf(SetLenient(walk.Section().OrizVisibility, word.substr(0, word.size() - 2), 1000));
 }
 
 // VVVVVSM: whole miles, a fraction, or both written together (11/2SM); P6SM above, M1/4SM below.
@@ -228,8 +227,7 @@ Verdict TryAltimeter(MetarWalk& walk, std::string_view word) {
   if (setting.size() != 5 || !IsNumeric(std::string_view(setting).substr(1))) {
     return Verdict::Declined;
   }
-  return TakenIf(
-      SetStrict(walk.Section().AltimeterPressure, std::string_view(setting).substr(1)));
+  return TakenIf(SetStrict(walk.Section().AltimeterPressure, std::string_view(setting).substr(1)));
 }
 
 Verdict TryQnh(MetarWalk& walk, std::string_view word) {

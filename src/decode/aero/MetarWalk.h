@@ -28,11 +28,12 @@ struct MetarWalk {
   MessageScratch& Scratch;
   std::span<const std::string_view> WordList;
   std::size_t WordIndex = 0;
-  std::string_view Word = {};  // the word on offer: WordList[WordIndex], or what it was rewritten to
-  int WeatherSlot = -1;     // phenomenon of the section that was opened last
+  std::string_view Word =
+      {};                // the word on offer: WordList[WordIndex], or what it was rewritten to
+  int WeatherSlot = -1;  // phenomenon of the section that was opened last
   std::size_t CloudLayer = 0;
-  int ForecastIndex = -1;   // forecast temperature that was read last
-  bool InRemarks = false;   // RMK was met
+  int ForecastIndex = -1;                    // forecast temperature that was read last
+  bool InRemarks = false;                    // RMK was met
   std::vector<std::string_view> Forms = {};  // forms that the word on offer has had
 
   MetarRawSection& Section() const {
@@ -94,11 +95,11 @@ constexpr bool EndsInWindUnit(std::string_view word) noexcept {
 namespace WordFeature {
 enum : std::uint8_t {
   None = 0,
-  Solidus = 1,    // holds "/"
-  WindUnit = 2,   // ends in KT, KMH or MPS
-  Kilometres = 4, // ends in KM
-  Miles = 8,      // ends in SM
-  LetterB = 16,   // holds a B, as PROB and BECMG do
+  Solidus = 1,     // holds "/"
+  WindUnit = 2,    // ends in KT, KMH or MPS
+  Kilometres = 4,  // ends in KM
+  Miles = 8,       // ends in SM
+  LetterB = 16,    // holds a B, as PROB and BECMG do
 };
 inline constexpr std::size_t Combinations = 32;
 }  // namespace WordFeature
@@ -119,10 +120,10 @@ constexpr std::uint8_t FeaturesOf(std::string_view word) noexcept {
 // takes it.
 struct Recogniser {
   std::string_view Name;
-  std::string_view Form;    // in the notation of the code forms
-  std::string_view First;   // the characters that a word may begin with; empty: any
-  std::uint8_t Needs;       // WordFeature bits that it must have
-  bool OutsideRemarks;      // not offered once RMK was met
+  std::string_view Form;   // in the notation of the code forms
+  std::string_view First;  // the characters that a word may begin with; empty: any
+  std::uint8_t Needs;      // WordFeature bits that it must have
+  bool OutsideRemarks;     // not offered once RMK was met
   Verdict (*Try)(MetarWalk& walk, std::string_view word);
 };
 

@@ -48,8 +48,7 @@ SynopDecoder::Outcome SynopDecoder::DecodeSynopMessage(const BulletinMessage& me
   }
   if (step != Step::GoOn) {
     ResetSynopRecord(raw_);
-    return {.Stored = false,
-            .PrintWrongLine = step == Step::Reject && !message.SingleMessage};
+    return {.Stored = false, .PrintWrongLine = step == Step::Reject && !message.SingleMessage};
   }
   ReadSections(walk);
   const SynopData& stored =
@@ -59,8 +58,8 @@ SynopDecoder::Outcome SynopDecoder::DecodeSynopMessage(const BulletinMessage& me
 }
 
 void SynopDecoder::LogWithoutInformation(std::int32_t line) {
-  LogAtLine(context_, "Messaggio senza informazioni. Line: ",
-            "Message without informations. Line: ", line);
+  LogAtLine(context_,
+            "Messaggio senza informazioni. Line: ", "Message without informations. Line: ", line);
 }
 
 SynopDecoder::Step SynopDecoder::ReadHeading(const BulletinMessage& message, SynopWalk& walk) {
@@ -126,8 +125,8 @@ SynopDecoder::Step SynopDecoder::ReadSeaHeader(const BulletinMessage& message, S
 // AAXX YYGGiw IIiii.
 SynopDecoder::Step SynopDecoder::ReadLandHeader(SynopWalk& walk) {
   if (!BeginsWithLetter(walk.Word())) {
-    LogAtLine(context_, "Carattere Illecito; Line: ", "Wrong Char on Field; Line: ",
-              walk.LineCount, " - Item: " + Windows1252ToUtf8(walk.Word()));
+    LogAtLine(context_, "Carattere Illecito; Line: ", "Wrong Char on Field; Line: ", walk.LineCount,
+              " - Item: " + Windows1252ToUtf8(walk.Word()));
     return Step::Reject;
   }
   raw_.Station.Type = scratch_.Text(walk.TakeWord());

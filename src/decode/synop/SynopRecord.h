@@ -92,10 +92,10 @@ struct SynopRawData {
                                                             MissingByte};  // C
   std::array<std::uint8_t, SynopCloudLayers> HeighOfCloud = {MissingByte, MissingByte, MissingByte,
                                                              MissingByte};  // hshs
-  std::uint8_t SupplInfo = MissingByte;                              // 9SpSpspsp: spsp
-  std::array<std::string_view, ContinuousWinds> CountinuousWindRaw;  // section 5: dddfff
-  std::int16_t WindAt10mt = MissingShort;                            // tenths of m/s
-  std::int16_t WindAt20mt = MissingShort;                            // tenths of m/s
+  std::uint8_t SupplInfo = MissingByte;                                     // 9SpSpspsp: spsp
+  std::array<std::string_view, ContinuousWinds> CountinuousWindRaw;         // section 5: dddfff
+  std::int16_t WindAt10mt = MissingShort;                                   // tenths of m/s
+  std::int16_t WindAt20mt = MissingShort;                                   // tenths of m/s
   std::string_view MaxWindSpeedTime = Unk;
   std::uint8_t MaxWindSpeed = MissingByte;  // m/s
   std::uint8_t MaxWindDir = MissingByte;    // tens of degrees

@@ -74,8 +74,7 @@ void ReadSeaLevelPressure(SynopWalk& walk) {
 void ReadTendency(SynopWalk& walk) {
   walk.SetFigure(walk.Raw.PressTendency, 2);
   if (walk.Part(3, 3) == "///") return;
-  walk.Raw.PressTendencyVal =
-      Signed(Tenth * Value(walk.Part(3, 3)), walk.Raw.PressTendency >= 5);
+  walk.Raw.PressTendencyVal = Signed(Tenth * Value(walk.Part(3, 3)), walk.Raw.PressTendency >= 5);
 }
 
 void ReadPrecipitation(SynopWalk& walk) {

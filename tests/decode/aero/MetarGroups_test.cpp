@@ -203,8 +203,7 @@ TEST(MetarGroups, WindShear) {
        "; WindShearLevel=20 WindShearDir=240 WindShearSpeed=45"},
       {"is no wind, whatever follows", "WS020/24045KT 4000",
        "; WindShearLevel=20 WindShearDir=240 WindShearSpeed=45"},
-      {"level not reported", "WS///24045KT",
-       "; WindShearSpeed=45"},
+      {"no level", "WS/24045KT", "; WindShearDir=240 WindShearSpeed=45"},
       {"direction not reported", "WS020////45KT", "; WindShearLevel=20 WindShearSpeed=45"},
       {"level out of range", "WS300/24045KT", "", "WS300/24045KT"},
       {"direction that is no number", "WS020/ABC45KT", "; WindShearLevel=20", "WS020/ABC45KT"},
@@ -290,7 +289,7 @@ TEST(MetarGroups, ForecastTemperature) {
           {"with hour", "151218 T25/12Z", "; ForecastTemperature0=125 ForecastTemperatureHour0=12"},
           {"below zero", "151218 TM05/06Z",
            "; ForecastTemperature0=95 ForecastTemperatureHour0=6"},
-          {"letter behind", "151218 TX25/12Z", ""},
+          {"another letter is no number", "151218 TX25/12Z", "; ForecastTemperatureHour0=12"},
           {"two", "151218 T25/12Z T15/03Z",
            "; ForecastTemperature0=125 ForecastTemperature1=115 ForecastTemperatureHour0=12 "
            "ForecastTemperatureHour1=3"},
