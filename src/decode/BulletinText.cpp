@@ -1,5 +1,7 @@
 #include "decode/BulletinText.h"
 
+#include <algorithm>
+
 namespace zg {
 namespace {
 constexpr std::string_view AddedLineEnd = "\r\n";
@@ -13,11 +15,11 @@ bool NeedsLineFeedRepair(std::string_view bytes) noexcept {
 }
 
 void RepairLineFeeds(std::string& bytes) {
-  char before = '\0';
-  for (char& c : bytes) {
-    const char original = c;
-    if (c == '\n' && before != '\r') c = '\r';
-    before = original;
+  std::size_t changed = std::string::npos;  // the line feed that was changed last
+  for (std::size_t at = bytes.find('\n'); at != std::string::npos; at = bytes.find('\n', at + 1)) {
+    if (at > 0 && bytes[at - 1] == '\r' && changed != at - 1) continue;
+    bytes[at] = '\r';
+    changed = at;
   }
   bytes += AddedLineEnd;
 }
@@ -30,6 +32,11 @@ LineReader::LineReader(std::string_view bytes, bool repaired) noexcept
   }
 }
 
+// Where the character stands next; the end if it does not.
+std::size_t LineReader::Find(char c) const noexcept {
+  return std::min(bytes_.find(c, position_), end_);
+}
+
 bool LineReader::Next(std::string_view& line) noexcept {
   line = {};
   if (position_ >= end_) {
@@ -38,18 +45,20 @@ bool LineReader::Next(std::string_view& line) noexcept {
     position_ = bytes_.size();
     return true;
   }
-  const std::string_view rest = bytes_.substr(position_, end_ - position_);
-  std::size_t length = 0;
-  while (length < rest.size() && rest[length] != '\r' && rest[length] != '\n') ++length;
-  line = rest.substr(0, length);
-  const std::string_view behind = rest.substr(length);
+  // Each kind of line end is searched for once up to where it is: no byte is looked at thrice.
+  if (!started_ || nextFeed_ < position_) nextFeed_ = Find('\n');
+  if (!started_ || nextReturn_ < position_) nextReturn_ = Find('\r');
+  started_ = true;
+  const std::size_t lineEnd = std::min(nextFeed_, nextReturn_);
+  line = bytes_.substr(position_, lineEnd - position_);
+  const std::string_view behind = bytes_.substr(lineEnd, end_ - lineEnd);
   std::size_t ending = behind.empty() ? 0 : 1;
   if (behind.starts_with("\r\r\n")) {
     ending = 3;
   } else if (behind.starts_with("\r\n")) {
     ending = 2;
   }
-  position_ += length + ending;
+  position_ = lineEnd + ending;
   return true;
 }
 

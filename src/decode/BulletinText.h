@@ -30,9 +30,14 @@ class LineReader {
   std::size_t Position() const noexcept { return position_; }
 
  private:
+  std::size_t Find(char c) const noexcept;
+
   std::string_view bytes_;
   std::size_t position_ = 0;
-  std::size_t end_;         // end of the lines that are cut in the ordinary way
+  std::size_t nextFeed_ = 0;    // the first line feed at or behind position_, once searched for
+  std::size_t nextReturn_ = 0;  // the first carriage return
+  std::size_t end_;             // end of the lines that are cut in the ordinary way
+  bool started_ = false;
   bool extraLine_ = false;  // the added line end is still to be read
 };
 

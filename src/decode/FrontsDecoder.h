@@ -12,8 +12,8 @@ namespace zg {
 
 // A point of the analysis: a pressure centre, the first point of a line, or a further one.
 struct FrontsRow {
-  std::int32_t Type = 0;  // 0 high, 1 low, 2 stationary, 3 occluded, 5 trough, 6 cold, 7 warm
-                          // front, -1 a further point of the line before
+  std::int32_t Type = 0;    // 0 high, 1 low, 2 stationary, 3 occluded, 5 trough, 6 cold, 7 warm
+                            // front, -1 a further point of the line before
   std::int32_t RecNum = 0;  // from 10000; the order of drawing
   std::string Validity;     // six characters
   std::string MsgTime;

@@ -2,9 +2,11 @@
 // and TAF. A run fills one of them and replaces it whole; what it does not fill stays.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
-#include <memory>
+#include <cstdint>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "decode/StationTexts.h"
@@ -15,20 +17,66 @@
 
 namespace zg {
 
+// The texts of the stations that a store has met, by the number of their row in the directory. They
+// outlive the records: the same stations report hour by hour.
+class StationTextCache {
+ public:
+  // Forgets all if the directory or the language is another one than before.
+  void UseFor(const void* directory, std::uint8_t language) {
+    if (directory == directory_ && language == language_) return;
+    directory_ = directory;
+    language_ = language;
+    known_.clear();
+    arena_.Clear();
+  }
+
+  // The texts of a row, made by `make(arena)` the first time that it is met.
+  template <typename Make>
+  const StationTexts& Get(std::size_t row, Make make) {
+    if (row >= known_.size()) known_.resize(std::max(row + 1, known_.size() * 2));
+    const StationTexts*& known = known_[row];
+    if (known == nullptr) {
+      auto* made = arena_.Make<StationTexts>(1);
+      *made = make(arena_);
+      known = made;
+    }
+    return *known;
+  }
+
+  std::size_t Capacity() const noexcept {
+    return arena_.Capacity() + known_.capacity() * sizeof(void*);
+  }
+
+ private:
+  TextArena arena_;
+  std::vector<const StationTexts*> known_;
+  const void* directory_ = nullptr;
+  std::uint8_t language_ = 0;
+};
+
 // The texts that the records of one store share. Cleared as a whole, never in part.
 struct StoreTexts {
   TextArena Arena;
   ValueTexts Values{Arena};
-  // Texts of stations met so far, by the number of their row in the directory.
-  std::vector<const StationTexts*> Stations;
+  StationTextCache Stations;
+  // What the record before had from the heading of its bulletin, mostly the same again.
+  std::string_view MsgId;
+  std::string_view Sender;
+  std::string_view AddedInfo;
 
   StoreTexts() = default;
   StoreTexts(const StoreTexts&) = delete;
   StoreTexts& operator=(const StoreTexts&) = delete;
 
+  // The text in the arena, which is that of the record before where it is the same.
+  std::string_view Repeated(std::string_view& last, std::string_view text) {
+    if (text != last) last = Arena.Copy(text);
+    return last;
+  }
+
   void Clear() noexcept {
     Values.Clear();
-    Stations.clear();
+    MsgId = Sender = AddedInfo = {};
     Arena.Clear();
   }
 };
@@ -54,7 +102,7 @@ class MessageStore {
   // Bytes that the records and their texts take.
   std::size_t MemoryInUse() const noexcept {
     return records_.size() * sizeof(Record) + texts_.Arena.Capacity() + texts_.Values.Capacity() +
-           texts_.Stations.capacity() * sizeof(void*);
+           texts_.Stations.Capacity();
   }
 
  private:

@@ -183,10 +183,14 @@ bool MeteoDecode::ClaimStore(Family family) {
     firstMessage_ = false;
     storeFamily_ = family;
     const auto size = static_cast<std::size_t>(std::max(settings_.MaxMessages, 0));
+    const auto reset = [&](auto& store) {
+      store.Reset(size);
+      store.Texts().Stations.UseFor(context_.Stations.Identity(), context_.Texts().Language());
+    };
     if (family == Family::Synop) {
-      context_.Stores.SynopStore.Reset(size);
+      reset(context_.Stores.SynopStore);
     } else {
-      context_.Stores.MetarStore.Reset(size);
+      reset(context_.Stores.MetarStore);
     }
   }
   return true;

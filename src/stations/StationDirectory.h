@@ -45,6 +45,9 @@ class StationDirectory {
   // fails: then the directory holds what could be read.
   bool Load(DBUtility& dbUtility);
 
+  // Tells what was loaded from anything loaded before or elsewhere; null while nothing is.
+  const void* Identity() const noexcept { return rows_.data(); }
+
   std::size_t Size() const noexcept { return rows_.size(); }
   const std::vector<StationRow>& Rows() const noexcept { return rows_; }
 

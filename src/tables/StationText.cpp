@@ -34,17 +34,12 @@ StationTexts MakeTexts(const StationBlock& block, const TextUtility& textUtility
   return result;
 }
 
-const StationTexts& FindOrMake(const StationBlock& block, int stationRow,
-                               const TextUtility& textUtility, StoreTexts& texts) {
-  const auto row = static_cast<std::size_t>(stationRow);
-  if (row >= texts.Stations.size()) texts.Stations.resize(row + 1);
-  const StationTexts*& known = texts.Stations[row];
-  if (known == nullptr) {
-    auto* made = texts.Arena.Make<StationTexts>(1);
-    *made = MakeTexts(block, textUtility, texts.Arena);
-    known = made;
+// The type as a constant text; a word that stood in the place of one is copied.
+std::string_view TypeText(std::string_view type, TextArena& arena) {
+  for (const std::string_view name : {"METAR", "TAF", "SPECI", "AAXX", "BBXX"}) {
+    if (type == name) return name;
   }
-  return *known;
+  return arena.Copy(type);
 }
 
 }  // namespace
@@ -59,12 +54,16 @@ std::int32_t ClassifyStation(std::string_view Station, std::string_view Type) no
 
 StationTexts FillStationTexts(const StationBlock& block, int stationRow,
                               const TextUtility& textUtility, StoreTexts& texts) {
-  StationTexts result = stationRow < 0 ? MakeTexts(block, textUtility, texts.Arena)
-                                       : FindOrMake(block, stationRow, textUtility, texts);
-  result.MsgId = texts.Arena.Copy(block.MsgId);
-  result.Type = texts.Arena.Copy(block.Type);
-  result.Sender = texts.Arena.Copy(block.Sender);
-  result.AddedInfo = texts.Arena.Copy(block.AddedInfo);
+  StationTexts result =
+      stationRow < 0
+          ? MakeTexts(block, textUtility, texts.Arena)
+          : texts.Stations.Get(static_cast<std::size_t>(stationRow), [&](TextArena& arena) {
+              return MakeTexts(block, textUtility, arena);
+            });
+  result.MsgId = texts.Repeated(texts.MsgId, block.MsgId);
+  result.Sender = texts.Repeated(texts.Sender, block.Sender);
+  result.AddedInfo = texts.Repeated(texts.AddedInfo, block.AddedInfo);
+  result.Type = TypeText(block.Type, texts.Arena);
   result.StationKind = block.Type == "BBXX" ? ClassifyStation(block.Station, block.Type)
                                             : std::int32_t{StationKinds::Land};
   return result;

@@ -24,6 +24,19 @@ std::size_t NumberLength(std::string_view text) noexcept {
   return digits > 0 ? at : 0;
 }
 
+// Reads a text of one to nine figures, as nearly every number of a bulletin is one.
+bool ReadFigures(std::string_view text, std::uint32_t& whole) noexcept {
+  if (text.empty() || text.size() > 9) return false;
+  std::uint32_t value = 0;
+  for (char c : text) {
+    const unsigned digit = static_cast<unsigned char>(c) - unsigned{'0'};
+    if (digit > 9) return false;
+    value = value * 10 + digit;
+  }
+  whole = value;
+  return true;
+}
+
 // The value of a text that NumberLength has measured.
 double ParseMeasured(std::string_view text) noexcept {
   if (!text.empty() && text[0] == '+') text.remove_prefix(1);
@@ -135,6 +148,11 @@ std::string Fill(Decimal number, std::string_view mask) {
   return result;
 }
 
+// A whole number that is written with all its digits whatever the precision. Most values are.
+bool IsShortWhole(double value) noexcept {
+  return value > -1e6 && value < 1e6 && value == std::trunc(value);
+}
+
 // Plain decimal text of a value with at most `digits` significant digits.
 std::string WriteDecimal(double value, int digits) {
   if (!std::isfinite(value)) return {};
@@ -175,35 +193,48 @@ std::string WriteDecimal(double value, int digits) {
 }  // namespace
 
 bool IsNumeric(std::string_view text) noexcept {
+  if (IsDigits(text)) return true;
   const std::size_t length = NumberLength(text);
   return length > 0 && length == text.size();
 }
 
 std::optional<double> StrictNumber(std::string_view text) noexcept {
+  std::uint32_t whole = 0;
+  if (ReadFigures(text, whole)) return whole;
   if (!IsNumeric(text)) return std::nullopt;
   return ParseMeasured(text);
 }
 
 double Value(std::string_view text) noexcept {
+  std::uint32_t whole = 0;
+  if (ReadFigures(text, whole)) return whole;
   const std::size_t length = NumberLength(text);
   return length == 0 ? 0.0 : ParseMeasured(text.substr(0, length));
 }
 
-double RoundHalfEven(double value) noexcept {
-  const double whole = std::floor(value);
-  const double rest = value - whole;
-  if (rest < 0.5) return whole;
-  if (rest > 0.5) return whole + 1.0;
-  return std::fmod(whole, 2.0) == 0.0 ? whole : whole + 1.0;
+// The rounding mode of a program that never changes it is to nearest, halves to even.
+double RoundHalfEven(double value) noexcept { return std::nearbyint(value); }
+
+std::string PlainDecimal(double value) {
+  if (IsShortWhole(value)) return std::to_string(static_cast<int>(value));
+  return WriteDecimal(value, 15);
 }
 
-std::string PlainDecimal(double value) { return WriteDecimal(value, 15); }
-
-std::string PlainDecimal(float value) { return WriteDecimal(static_cast<double>(value), 7); }
+std::string PlainDecimal(float value) {
+  if (IsShortWhole(static_cast<double>(value))) return std::to_string(static_cast<int>(value));
+  return WriteDecimal(static_cast<double>(value), 7);
+}
 
 std::string PlainDecimal(int value) { return std::to_string(value); }
 
 std::string FormatNumber(double value, std::string_view mask) {
+  // Short whole numbers with forced digits only ("000", "00") need no decimal arithmetic.
+  if (value >= 0 && IsShortWhole(value) && mask.size() < 8 &&
+      mask.find_first_not_of('0') == std::string_view::npos) {
+    std::string digits = std::to_string(static_cast<int>(value));
+    if (digits.size() < mask.size()) digits.insert(0, mask.size() - digits.size(), '0');
+    return digits;
+  }
   return Fill(SplitDecimal(PlainDecimal(value)), mask);
 }
 

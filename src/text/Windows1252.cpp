@@ -131,6 +131,10 @@ std::string Utf8ToWindows1252(std::string_view text) {
 }
 
 void UpperCaseWindows1252(std::string& bytes) noexcept {
+  if (IsAscii(bytes)) {
+    for (char& c : bytes) c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
+    return;
+  }
   for (char& c : bytes) c = static_cast<char>(Capitals[static_cast<unsigned char>(c)]);
 }
 

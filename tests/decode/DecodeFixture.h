@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -44,6 +45,16 @@ inline std::string TestStations() {
       ", 'Chile'), (" + CallSignKey("DAA") + ", 'Germany'), (" + CallSignKey("DSA") +
       ", 'Korea'), (" + CallSignKey("IAA") + ", 'Italy'), (" + CallSignKey("JAA") + ", 'Japan');";
   return stations + ships;
+}
+
+// The bytes of the database, made once: each fixture has a copy of its own.
+inline const std::string& TestDatabase() {
+  static const std::string bytes = [] {
+    const TemporaryFolder folder;
+    MakeDatabase(folder / "ICAOData.mdb", TestStations());
+    return ReadTestFile(folder / "ICAOData.mdb");
+  }();
+  return bytes;
 }
 
 // Advances by a step at each reading.
@@ -110,10 +121,11 @@ struct DecodeFixture {
                         .Observer = Observer};
   MeteoDecodeSettings Settings{.ApplicationPath = Folder.Path()};
 
-  explicit DecodeFixture(const std::string& rows = TestStations()) {
+  DecodeFixture() {
     const std::string path = Folder / "ICAOData.mdb";
-    MakeDatabase(path, rows);
+    WriteTestFile(path, TestDatabase());
     EXPECT_TRUE(Database.ConnectDatabase(path));
+    EXPECT_TRUE(Database.Query("pragma synchronous = off"));
     EXPECT_TRUE(Stations.Load(Database));
   }
 

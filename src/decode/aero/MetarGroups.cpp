@@ -485,7 +485,7 @@ constexpr std::array<Recogniser, 36> Table = {{
     {"Towering cumulus", "TCU", "T", None, true, TryCloudForm<3, 8>},
     {"Cumulonimbus", "CB", "C", None, true, TryCloudForm<2, 9>},
     {"Cumulus", "CU", "C", None, true, TryCloudForm<2, 7>},
-    {"Time of observation", "YYGGggZ", "", None, false, TryLateTime},
+    {"Time of observation", "YYGGggZ", "", EndsInZ, false, TryLateTime},
     {"Weather", "w'w'", "+-BDFGHIMPRSTV", None, false, TryWeather},
 }};
 

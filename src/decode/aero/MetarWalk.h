@@ -100,8 +100,9 @@ enum : std::uint8_t {
   Kilometres = 4,  // ends in KM
   Miles = 8,       // ends in SM
   LetterB = 16,    // holds a B, as PROB and BECMG do
+  EndsInZ = 32,
 };
-inline constexpr std::size_t Combinations = 32;
+inline constexpr std::size_t Combinations = 64;
 }  // namespace WordFeature
 
 constexpr std::uint8_t FeaturesOf(std::string_view word) noexcept {
@@ -113,6 +114,7 @@ constexpr std::uint8_t FeaturesOf(std::string_view word) noexcept {
   if (EndsInWindUnit(word)) features |= WordFeature::WindUnit;
   if (word.ends_with("KM")) features |= WordFeature::Kilometres;
   if (word.ends_with("SM")) features |= WordFeature::Miles;
+  if (word.ends_with('Z')) features |= WordFeature::EndsInZ;
   return static_cast<std::uint8_t>(features);
 }
 

@@ -10,12 +10,11 @@ using test::BitsText;
 using test::DecodeFixture;
 using test::Describe;
 using test::SplitWords;
-using test::TestStations;
 using test::WordsDecoder;
 
 // The decoder between the words of a message and the store.
 struct MetarBench : DecodeFixture {
-  explicit MetarBench(const std::string& rows = TestStations()) : DecodeFixture(rows) {
+  MetarBench() {
     Observer.OnMetar = [this](const MetarRawData& raw) {
       Fields = Describe(raw);
       Flags = BitsText(static_cast<std::uint32_t>(raw.FilterFlags));
@@ -273,9 +272,11 @@ TEST(MetarDecoder, UnknownStation) {
 TEST(MetarDecoder, StationWithoutName) {
   for (const bool single : {true, false}) {
     for (const std::uint8_t language : {std::uint8_t{1}, std::uint8_t{0}}) {
-      MetarBench bench(
-          "insert into MeteoStations (WMOIndex, IcaoName, Station, Country, StationLat, "
-          "StationLong) values (1, 'LIXX', '', 'Italy', '41.48N', '012.14E');");
+      MetarBench bench;
+      test::RunSql(bench.Folder / "ICAOData.mdb",
+                   "insert into MeteoStations (WMOIndex, IcaoName, Station, Country, StationLat, "
+                   "StationLong) values (1, 'LIXX', '', 'Italy', '41.48N', '012.14E');");
+      ASSERT_TRUE(bench.Stations.Load(bench.Database));
       bench.Texts.SetLanguage(language);
       const auto outcome = bench.Decode(MessageType::METAR, "LIXX 151250Z", 0, false, single);
       EXPECT_FALSE(outcome.Stored);

@@ -142,7 +142,8 @@ class WordsDecoder {
   MetarDecoder decoder_{context_};
 };
 
-// Words of a report and all that they set; `wrong` are the words logged as wrong items.
+// Words of a report and all that they set; `wrong` are the words logged as wrong items. One decoder
+// takes all cases, so that none may leave a trace.
 struct WordsCase {
   const char* name;
   const char* words;
@@ -152,8 +153,8 @@ struct WordsCase {
 
 inline void ExpectWords(const std::vector<WordsCase>& cases,
                         MessageType type = MessageType::METAR) {
+  WordsDecoder decoder;
   for (const WordsCase& row : cases) {
-    WordsDecoder decoder;
     EXPECT_EQ(decoder.Decode(type, row.words), row.fields) << row.name << ": " << row.words;
     EXPECT_EQ(decoder.Wrong(), row.wrong) << row.name << ": " << row.words;
   }

@@ -129,7 +129,7 @@ TEST(SynopSection5, Groups) {
                    {"51234 71234 81234 91234 01234 RMK", "Flags=12"},
                    {"ABCDEF", "Flags=12 CountinuousWindRaw0=ABCDEF"},
                    // No marker ends it.
-                   {"222 10203 333", "Flags=12 WindAt10mt=203 MaxWindSpeedTime=33", "222"},
+                   {"222 10203 333", "Flags=12 WindAt10mt=203 WindAt20mt=2 MaxWindSpeedTime=33"},
                });
 }
 
