@@ -303,12 +303,12 @@ bool BulletinScanner::SplitAndDispatch() {
   message_.WordList.clear();
   std::string_view text = message_.Text;
   if (messageType_ != MessageType::FRONTS && !text.empty()) text.remove_suffix(1);
-  for (std::size_t at = text.find_first_not_of(' '); at != std::string_view::npos;
-       at = text.find_first_not_of(' ', at)) {
-    const std::size_t end = std::min(text.find(' ', at), text.size());
-    if (at < start_.Position) ++message_.HeaderEnd;
-    message_.WordList.push_back(text.substr(at, end - at));
-    at = end;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text[at] == ' ') continue;
+    const std::size_t start = at;
+    while (at < text.size() && text[at] != ' ') ++at;
+    if (start < start_.Position) ++message_.HeaderEnd;
+    message_.WordList.push_back(text.substr(start, at - start));
   }
   message_.HasHeading =
       IsSynop(messageType_)

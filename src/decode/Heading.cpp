@@ -44,11 +44,12 @@ struct Word {
 };
 
 Word WordFrom(std::string_view text, std::size_t at) noexcept {
+  while (at < text.size() && text[at] == ' ') ++at;
   Word word;
-  word.start = std::min(text.find_first_not_of(' ', at), text.size());
-  const std::size_t end = std::min(text.find(' ', word.start), text.size());
-  word.text = text.substr(word.start, end - word.start);
-  word.followedByBlank = end < text.size();
+  word.start = std::min(at, text.size());
+  while (at < text.size() && text[at] != ' ') ++at;
+  word.text = text.substr(word.start, at - word.start);
+  word.followedByBlank = at < text.size();
   return word;
 }
 

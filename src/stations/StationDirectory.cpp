@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cstring>
 #include <functional>
 #include <string>
 #include <unordered_map>
@@ -17,12 +18,23 @@ constexpr std::int32_t NoIndex = -1;
 constexpr std::int64_t MaxReserve = 100'000;  // rows; whatever the database says of its size
 constexpr std::string_view HeightMask = "0000";
 
-// Spreads the bits of a number over a hash table (Fibonacci hashing).
-std::size_t HashNumber(std::int64_t number) noexcept {
-  return static_cast<std::size_t>(static_cast<std::uint64_t>(number) * 0x9E3779B97F4A7C15u >> 32);
+constexpr std::size_t ShortName = sizeof(std::uint64_t);
+
+// Spreads the bits of a key over a hash table (Fibonacci hashing).
+std::size_t HashKey(std::uint64_t key) noexcept {
+  return static_cast<std::size_t>(key * 0x9E3779B97F4A7C15u >> 32U);
 }
 
-std::size_t HashName(std::string_view name) noexcept { return std::hash<std::string_view>()(name); }
+std::uint64_t KeyOf(std::int64_t number) noexcept { return static_cast<std::uint64_t>(number); }
+
+std::uint64_t KeyOf(std::string_view name) noexcept {
+  if (name.size() > ShortName) return std::hash<std::string_view>()(name);
+  std::uint64_t key = 0;
+  std::memcpy(&key, name.data(), name.size());
+  return key;
+}
+
+std::size_t HashName(std::string_view name) noexcept { return HashKey(KeyOf(name)); }
 
 // Copies texts into an arena; a text that comes again is the same view.
 class TextPool {
@@ -62,7 +74,7 @@ class TextPool {
     using is_transparent = void;
     std::size_t operator()(std::string_view text) const noexcept { return HashName(text); }
     std::size_t operator()(double number) const noexcept {
-      return HashNumber(std::bit_cast<std::int64_t>(number));
+      return HashKey(std::bit_cast<std::uint64_t>(number));
     }
   };
 
@@ -154,26 +166,25 @@ bool StationDirectory::LoadShipRanges(DBUtility& dbUtility) {
 void StationDirectory::BuildSlots() {
   std::size_t size = 16;
   while (size < rows_.size() * 2) size *= 2;
-  for (Slots* slots : {&byWMOIndex_, &byIcaoName_, &byStation_}) slots->assign(size, 0);
+  for (Slots* slots : {&byWMOIndex_, &byIcaoName_, &byStation_}) slots->assign(size, Slot());
 
   // Puts a row into the first free slot, unless a row with the same key got there before it.
-  const auto place = [&](Slots& slots, std::size_t hash, const StationRow& row, const auto& same) {
-    std::size_t slot = hash & (size - 1);
-    for (; slots[slot] != 0; slot = (slot + 1) & (size - 1)) {
-      if (same(rows_[slots[slot] - 1])) return;
+  const auto place = [&](Slots& slots, std::uint64_t key, const StationRow& row, const auto& same) {
+    std::size_t at = HashKey(key) & (size - 1);
+    for (; slots[at].row != 0; at = (at + 1) & (size - 1)) {
+      if (slots[at].key == key && same(rows_[slots[at].row - 1])) return;
     }
-    slots[slot] = static_cast<std::uint32_t>(row.id) + 1;
+    slots[at] = {key, static_cast<std::uint32_t>(row.id) + 1};
   };
   const auto placeName = [&](Slots& slots, std::string_view StationRow::*field,
                              const StationRow& row) {
     if ((row.*field).empty()) return;
-    place(slots, HashName(row.*field), row,
+    place(slots, KeyOf(row.*field), row,
           [&](const StationRow& other) { return other.*field == row.*field; });
   };
   for (const StationRow& row : rows_) {
     if (row.WMOIndex != NoIndex) {
-      place(byWMOIndex_, HashNumber(row.WMOIndex), row,
-            [&](const StationRow& other) { return other.WMOIndex == row.WMOIndex; });
+      place(byWMOIndex_, KeyOf(row.WMOIndex), row, [](const StationRow&) { return true; });
     }
     placeName(byIcaoName_, &StationRow::IcaoName, row);
     placeName(byStation_, &StationRow::Station, row);
@@ -183,10 +194,9 @@ void StationDirectory::BuildSlots() {
 const StationRow* StationDirectory::FindByNumber(std::int64_t number) const noexcept {
   if (byWMOIndex_.empty()) return nullptr;
   const std::size_t mask = byWMOIndex_.size() - 1;
-  for (std::size_t slot = HashNumber(number) & mask; byWMOIndex_[slot] != 0;
-       slot = (slot + 1) & mask) {
-    const StationRow& row = rows_[byWMOIndex_[slot] - 1];
-    if (row.WMOIndex == number) return &row;
+  const std::uint64_t key = KeyOf(number);
+  for (std::size_t at = HashKey(key) & mask; byWMOIndex_[at].row != 0; at = (at + 1) & mask) {
+    if (byWMOIndex_[at].key == key) return &rows_[byWMOIndex_[at].row - 1];
   }
   return nullptr;
 }
@@ -196,9 +206,12 @@ const StationRow* StationDirectory::FindByName(const Slots& slots,
                                                std::string_view name) const noexcept {
   if (slots.empty() || name.empty()) return nullptr;
   const std::size_t mask = slots.size() - 1;
-  for (std::size_t slot = HashName(name) & mask; slots[slot] != 0; slot = (slot + 1) & mask) {
-    const StationRow& row = rows_[slots[slot] - 1];
-    if (row.*field == name) return &row;
+  const std::uint64_t key = KeyOf(name);
+  for (std::size_t at = HashKey(key) & mask; slots[at].row != 0; at = (at + 1) & mask) {
+    if (slots[at].key != key) continue;
+    const StationRow& row = rows_[slots[at].row - 1];
+    // A short key says the whole name, but for zeros behind it, which no name has.
+    if (name.size() <= ShortName || row.*field == name) return &row;
   }
   return nullptr;
 }

@@ -74,8 +74,14 @@ class StationDirectory {
   std::string_view GetShipCountry(std::string_view CallSign) const noexcept;
 
  private:
-  // Open addressing: row number plus 1 in each slot, 0 where it is free. The size is a power of 2.
-  using Slots = std::vector<std::uint32_t>;
+  // Open addressing with the key beside the row, so that no row is looked at in vain: a number or a
+  // name of up to eight characters as it stands, a longer name by its hash. The size is a power
+  // of 2.
+  struct Slot {
+    std::uint64_t key = 0;
+    std::uint32_t row = 0;  // number of the row plus 1, 0 where the slot is free
+  };
+  using Slots = std::vector<Slot>;
   struct ShipRange {
     std::int64_t StartIndex;
     std::string_view Country;

@@ -13,6 +13,8 @@ namespace {
 enum class Rule : std::uint32_t {
   DayAndTime,
   Time,
+  DayAndPeriod,
+  Period,
   Celsius,
   CelsiusTable,
   Hour,
@@ -74,13 +76,16 @@ std::string_view TimeText(std::string_view digits, Maker& make) {
 }
 
 // "15/12:00Z - 18:00Z" from a period ddhhhh, "12:00Z - 18:00Z" from hhhh.
-std::string_view PeriodText(std::string_view period, TextArena& arena) {
-  if (period.size() != 6 && period.size() != 4) return {};
-  std::string text;
-  if (period.size() == 6) text.append(period.substr(0, 2)).append("/");
-  const std::string_view hours = Right(period, 4);
-  text.append(hours.substr(0, 2)).append(":00Z - ").append(hours.substr(2)).append(":00Z");
-  return arena.Copy(text);
+std::string_view PeriodText(std::string_view period, Maker& make) {
+  if (!IsDigits(period) || (period.size() != 6 && period.size() != 4)) return {};
+  return make.Of(period.size() == 6 ? Rule::DayAndPeriod : Rule::Period,
+                 static_cast<int>(Value(period)), [&] {
+                   std::string text;
+                   if (period.size() == 6) text.append(period.substr(0, 2)).append("/");
+                   const std::string_view hours = Right(period, 4);
+                   text.append(hours.substr(0, 2)).append(":00Z - ");
+                   return text.append(hours.substr(2)).append(":00Z");
+                 });
 }
 
 std::string_view SectionTime(std::uint8_t hour, std::uint8_t minute, Maker& make) {
@@ -219,7 +224,7 @@ void StoreSection(const MetarRawSection& raw, std::int32_t flags, Maker& make,
 void StoreHead(const MetarRawData& raw, Maker& make, MetarData& record) {
   record.ObservationTime = TimeText(raw.ObservationTime, make);
   record.BulletinTime = TimeText(raw.BulletinTime, make);
-  record.ValidPeriod = PeriodText(raw.ValidPeriod, make.Arena());
+  record.ValidPeriod = PeriodText(raw.ValidPeriod, make);
   for (std::size_t i = 0; i < raw.ForecastTemperature.size(); ++i) {
     const std::uint8_t value = raw.ForecastTemperature[i];
     const std::uint8_t hour = raw.ForecastTemperatureHour[i];

@@ -83,88 +83,242 @@ std::string RawObject(const Raw& raw) {
   return Members(Line(RecordFields::Raw, raw, Data{}))["Raw"];
 }
 
-const Keys StationKeys = {"WMOIndex",     "State",     "Station",  "Country",  "IcaoName",
-                          "LatPosition",  "LongPosition", "StationHT", "SensorHT", "Quadrant",
-                          "MsgId",        "Type",      "Sender",   "AddedInfo", "StationKind"};
+const Keys StationKeys = {"WMOIndex",    "State",        "Station",   "Country",   "IcaoName",
+                          "LatPosition", "LongPosition", "StationHT", "SensorHT",  "Quadrant",
+                          "MsgId",       "Type",         "Sender",    "AddedInfo", "StationKind"};
 
-const Keys CloudLayerKeys = {"CloudCovLayer0", "CloudCovLayer1", "CloudCovLayer2",
-                             "CloudCovLayer3", "TypeOfCloud0",   "TypeOfCloud1",
-                             "TypeOfCloud2",   "TypeOfCloud3",   "HeighOfCloud0",
-                             "HeighOfCloud1",  "HeighOfCloud2",  "HeighOfCloud3"};
+const Keys CloudLayerKeys = {"CloudCovLayer0", "CloudCovLayer1", "CloudCovLayer2", "CloudCovLayer3",
+                             "TypeOfCloud0",   "TypeOfCloud1",   "TypeOfCloud2",   "TypeOfCloud3",
+                             "HeighOfCloud0",  "HeighOfCloud1",  "HeighOfCloud2",  "HeighOfCloud3"};
 
-const Keys SynopKeys =
-    Keys{"Store", "Msg", "StationBlock", "FilterFlags", "TimeOfObservation", "IssueTime",
-         "PrecipInd", "StationType", "StationTypeCode", "LowestCloud", "LowestCloudCode",
-         "Visibility", "VisibilityCode", "CloudCover", "CloudCoverCode", "WindDirection",
-         "WindSpeed", "DewPoint", "Humidity", "Temperature", "StatPressure", "SeaLevPressure",
-         "GeopotHeight", "GeopotPressure", "PressTendency", "PressTendencyCode",
-         "PressTendencyVal", "PrecipitAmount1", "PrecipitAmount1Code", "PrecipitDuration1",
-         "PrecipitDuration1Code", "PresentWeather", "PresentWeatherCode", "WeatherSymb",
-         "PastWeather1", "PastWeather1Code", "PastWeather2", "PastWeather2Code", "CloudAmount",
-         "CloudAmountCode", "LowCloudType", "LowCloudTypeCode", "MiddleCloudType",
-         "MiddleCloudTypeCode", "HighCloudType", "HighCloudTypeCode", "MaxTemperature",
-         "MinTemperature", "RegionalData1", "RegionalData2", "SnowState", "SnowStateCode",
-         "SnowDepth", "OtherInfo", "PrecipitAmount2", "PrecipitDuration2", "PastPrecipitAmount"} +
-    CloudLayerKeys +
-    Keys{"SupplInfo", "CountinuousWindDir", "CountinuousWindSpeed", "WindAt10mt", "WindAt20mt",
-         "MaxWindSpeedTime", "MaxWindSpeed", "MaxWindDir", "ContinueWindTime", "ShipDirection",
-         "ShipDirectionCode", "ShipAvSpeed", "ShipAvSpeedCode", "SeaTemperature", "SeaTemperType",
-         "SeaTemperTypeCode", "WavePeriod", "WaveHeight", "WavePeriodPredom", "WaveHeightPredom",
-         "WaveDirPredom", "WavePeriodSecond", "WaveHeightSecond", "WaveDirSecond",
-         "ShipIceAccretion", "ShipIceAccretionCode", "ThicknessOfIce", "RateIceAccretion",
-         "RateIceAccretionCode", "WetTemperature", "WetTemperType", "WetTemperTypeCode",
-         "SeaIceConcentration", "SeaIceConcentrationCode", "SeaIceStage", "SeaIceStageCode",
-         "SeaIceBearingEdge", "SeaIceBearingEdgeCode", "IceOfLandOrigin", "IceOfLandOriginCode",
-         "IceSituation", "IceSituationCode"};
+const Keys SynopKeys = Keys{"Store",
+                            "Msg",
+                            "StationBlock",
+                            "FilterFlags",
+                            "TimeOfObservation",
+                            "IssueTime",
+                            "PrecipInd",
+                            "StationType",
+                            "StationTypeCode",
+                            "LowestCloud",
+                            "LowestCloudCode",
+                            "Visibility",
+                            "VisibilityCode",
+                            "CloudCover",
+                            "CloudCoverCode",
+                            "WindDirection",
+                            "WindSpeed",
+                            "DewPoint",
+                            "Humidity",
+                            "Temperature",
+                            "StatPressure",
+                            "SeaLevPressure",
+                            "GeopotHeight",
+                            "GeopotPressure",
+                            "PressTendency",
+                            "PressTendencyCode",
+                            "PressTendencyVal",
+                            "PrecipitAmount1",
+                            "PrecipitAmount1Code",
+                            "PrecipitDuration1",
+                            "PrecipitDuration1Code",
+                            "PresentWeather",
+                            "PresentWeatherCode",
+                            "WeatherSymb",
+                            "PastWeather1",
+                            "PastWeather1Code",
+                            "PastWeather2",
+                            "PastWeather2Code",
+                            "CloudAmount",
+                            "CloudAmountCode",
+                            "LowCloudType",
+                            "LowCloudTypeCode",
+                            "MiddleCloudType",
+                            "MiddleCloudTypeCode",
+                            "HighCloudType",
+                            "HighCloudTypeCode",
+                            "MaxTemperature",
+                            "MinTemperature",
+                            "RegionalData1",
+                            "RegionalData2",
+                            "SnowState",
+                            "SnowStateCode",
+                            "SnowDepth",
+                            "OtherInfo",
+                            "PrecipitAmount2",
+                            "PrecipitDuration2",
+                            "PastPrecipitAmount"} +
+                       CloudLayerKeys +
+                       Keys{"SupplInfo",
+                            "CountinuousWindDir",
+                            "CountinuousWindSpeed",
+                            "WindAt10mt",
+                            "WindAt20mt",
+                            "MaxWindSpeedTime",
+                            "MaxWindSpeed",
+                            "MaxWindDir",
+                            "ContinueWindTime",
+                            "ShipDirection",
+                            "ShipDirectionCode",
+                            "ShipAvSpeed",
+                            "ShipAvSpeedCode",
+                            "SeaTemperature",
+                            "SeaTemperType",
+                            "SeaTemperTypeCode",
+                            "WavePeriod",
+                            "WaveHeight",
+                            "WavePeriodPredom",
+                            "WaveHeightPredom",
+                            "WaveDirPredom",
+                            "WavePeriodSecond",
+                            "WaveHeightSecond",
+                            "WaveDirSecond",
+                            "ShipIceAccretion",
+                            "ShipIceAccretionCode",
+                            "ThicknessOfIce",
+                            "RateIceAccretion",
+                            "RateIceAccretionCode",
+                            "WetTemperature",
+                            "WetTemperType",
+                            "WetTemperTypeCode",
+                            "SeaIceConcentration",
+                            "SeaIceConcentrationCode",
+                            "SeaIceStage",
+                            "SeaIceStageCode",
+                            "SeaIceBearingEdge",
+                            "SeaIceBearingEdgeCode",
+                            "IceOfLandOrigin",
+                            "IceOfLandOriginCode",
+                            "IceSituation",
+                            "IceSituationCode"};
 
 const Keys SynopRawKeys =
-    Keys{"Accepted", "Msg", "StationBlock", "FilterFlags", "TimeOfObservation", "IssueTime",
-         "WindUnitInd", "PrecipInd", "StationType", "LowestCloud", "Visibility", "CloudCover",
-         "WindDirection", "WindSpeed", "DewPoint", "Humidity", "Temperature", "StatPressure",
-         "SeaLevPressure", "GeopotHeight", "GeopotPressure", "PressTendency", "PressTendencyVal",
-         "PrecipitAmount1", "PrecipitDuration1", "PresentWeather", "PastWeather1", "PastWeather2",
-         "CloudAmount", "LowCloudType", "MiddleCloudType", "HighCloudType", "MaxTemperature",
-         "MinTemperature", "RegionalData1", "RegionalData2", "SnowState", "SnowDepth", "OtherInfo",
-         "PrecipitAmount2", "PrecipitDuration2", "PastPrecipitAmount"} +
+    Keys{"Accepted",          "Msg",
+         "StationBlock",      "FilterFlags",
+         "TimeOfObservation", "IssueTime",
+         "WindUnitInd",       "PrecipInd",
+         "StationType",       "LowestCloud",
+         "Visibility",        "CloudCover",
+         "WindDirection",     "WindSpeed",
+         "DewPoint",          "Humidity",
+         "Temperature",       "StatPressure",
+         "SeaLevPressure",    "GeopotHeight",
+         "GeopotPressure",    "PressTendency",
+         "PressTendencyVal",  "PrecipitAmount1",
+         "PrecipitDuration1", "PresentWeather",
+         "PastWeather1",      "PastWeather2",
+         "CloudAmount",       "LowCloudType",
+         "MiddleCloudType",   "HighCloudType",
+         "MaxTemperature",    "MinTemperature",
+         "RegionalData1",     "RegionalData2",
+         "SnowState",         "SnowDepth",
+         "OtherInfo",         "PrecipitAmount2",
+         "PrecipitDuration2", "PastPrecipitAmount"} +
     CloudLayerKeys +
-    Keys{"SupplInfo", "CountinuousWindRaw", "WindAt10mt", "WindAt20mt", "MaxWindSpeedTime",
-         "MaxWindSpeed", "MaxWindDir", "ContinueWindTime", "ShipDirection", "ShipAvSpeed",
-         "SeaTemperature", "SeaTemperType", "WavePeriod", "WaveHeight", "WavePeriodPredom",
-         "WaveHeightPredom", "WaveDirPredom", "WavePeriodSecond", "WaveHeightSecond",
-         "WaveDirSecond", "ShipIceAccretion", "ThicknessOfIce", "RateIceAccretion",
-         "WetTemperature", "WetTemperType", "SeaIceConcentration", "SeaIceStage",
-         "SeaIceBearingEdge", "IceOfLandOrigin", "IceSituation"};
+    Keys{"SupplInfo",        "CountinuousWindRaw",  "WindAt10mt",       "WindAt20mt",
+         "MaxWindSpeedTime", "MaxWindSpeed",        "MaxWindDir",       "ContinueWindTime",
+         "ShipDirection",    "ShipAvSpeed",         "SeaTemperature",   "SeaTemperType",
+         "WavePeriod",       "WaveHeight",          "WavePeriodPredom", "WaveHeightPredom",
+         "WaveDirPredom",    "WavePeriodSecond",    "WaveHeightSecond", "WaveDirSecond",
+         "ShipIceAccretion", "ThicknessOfIce",      "RateIceAccretion", "WetTemperature",
+         "WetTemperType",    "SeaIceConcentration", "SeaIceStage",      "SeaIceBearingEdge",
+         "IceOfLandOrigin",  "IceSituation"};
 
-const Keys MetarKeys = {
-    "Store", "RawText", "StationBlock", "ObservationTime", "ValidPeriod", "BulletinTime",
-    "FilterFlags", "Section", "SectionCount", "ForecastTemperature", "ForecastTemperatureTime",
-    "Temperature", "Dewpoint", "RVRRunway", "RVRVisibility", "RVRVisibilitymax",
-    "VerticalVisibility", "VerticalVisibilityCopy", "WindShearLevel", "WindShearDir",
-    "WindShearSpeed", "OtherRemarks", "WindRemarks", "MaxTemperature6h", "MinTemperature6h",
-    "MaxTemperature24h", "MinTemperature24h", "Sunshine", "PrecipHour", "Precip3h", "Precip6h",
-    "Precip24h", "Water", "SnowDepth", "PressTendency", "PressTendencyVal", "LowCloudType",
-    "MiddleCloudType", "HighCloudType", "IsAO1", "IsAO2", "IsCOR", "IsAMD", "IsManual"};
+const Keys MetarKeys = {"Store",
+                        "RawText",
+                        "StationBlock",
+                        "ObservationTime",
+                        "ValidPeriod",
+                        "BulletinTime",
+                        "FilterFlags",
+                        "Section",
+                        "SectionCount",
+                        "ForecastTemperature",
+                        "ForecastTemperatureTime",
+                        "Temperature",
+                        "Dewpoint",
+                        "RVRRunway",
+                        "RVRVisibility",
+                        "RVRVisibilitymax",
+                        "VerticalVisibility",
+                        "VerticalVisibilityCopy",
+                        "WindShearLevel",
+                        "WindShearDir",
+                        "WindShearSpeed",
+                        "OtherRemarks",
+                        "WindRemarks",
+                        "MaxTemperature6h",
+                        "MinTemperature6h",
+                        "MaxTemperature24h",
+                        "MinTemperature24h",
+                        "Sunshine",
+                        "PrecipHour",
+                        "Precip3h",
+                        "Precip6h",
+                        "Precip24h",
+                        "Water",
+                        "SnowDepth",
+                        "PressTendency",
+                        "PressTendencyVal",
+                        "LowCloudType",
+                        "MiddleCloudType",
+                        "HighCloudType",
+                        "IsAO1",
+                        "IsAO2",
+                        "IsCOR",
+                        "IsAMD",
+                        "IsManual"};
 
 const Keys MetarSectionKeys = {
-    "SectionType", "SectionName", "FromTime", "ToTime", "AltimeterPressure", "SeaPressureLevel",
-    "OrizVisibility", "VisibilityDir", "WindDir", "WindSpeed", "WindDirRange", "Gust",
-    "CloudCover", "CloudCoverShort", "CloudType", "CloudTypeShort", "CloudHeigh", "CloudLayers",
-    "Weather", "WeatherCount"};
+    "SectionType",      "SectionName",    "FromTime",      "ToTime",          "AltimeterPressure",
+    "SeaPressureLevel", "OrizVisibility", "VisibilityDir", "WindDir",         "WindSpeed",
+    "WindDirRange",     "Gust",           "CloudCover",    "CloudCoverShort", "CloudType",
+    "CloudTypeShort",   "CloudHeigh",     "CloudLayers",   "Weather",         "WeatherCount"};
 
-const Keys MetarRawKeys = {
-    "Accepted", "RawText", "StationBlock", "ObservationTime", "ValidPeriod", "BulletinTime",
-    "FilterFlags", "Section", "SectionIndex", "ForecastTemperature", "ForecastTemperatureHour",
-    "Temperature", "Dewpoint", "RVRRunway", "RVRVisibility", "RVRVisibilitymax",
-    "VerticalVisibility", "WindShearLevel", "WindShearDir", "WindShearSpeed", "OtherRemarks",
-    "WindRemarks", "MaxTemperature6h", "MinTemperature6h", "MaxTemperature24h",
-    "MinTemperature24h", "PrecipHour", "Precip3h", "Precip6h", "Precip24h", "SnowDepth",
-    "PressTendency", "PressTendencyVal", "LowCloudType", "MiddleCloudType", "HighCloudType",
-    "Sunshine", "Water"};
+const Keys MetarRawKeys = {"Accepted",
+                           "RawText",
+                           "StationBlock",
+                           "ObservationTime",
+                           "ValidPeriod",
+                           "BulletinTime",
+                           "FilterFlags",
+                           "Section",
+                           "SectionIndex",
+                           "ForecastTemperature",
+                           "ForecastTemperatureHour",
+                           "Temperature",
+                           "Dewpoint",
+                           "RVRRunway",
+                           "RVRVisibility",
+                           "RVRVisibilitymax",
+                           "VerticalVisibility",
+                           "WindShearLevel",
+                           "WindShearDir",
+                           "WindShearSpeed",
+                           "OtherRemarks",
+                           "WindRemarks",
+                           "MaxTemperature6h",
+                           "MinTemperature6h",
+                           "MaxTemperature24h",
+                           "MinTemperature24h",
+                           "PrecipHour",
+                           "Precip3h",
+                           "Precip6h",
+                           "Precip24h",
+                           "SnowDepth",
+                           "PressTendency",
+                           "PressTendencyVal",
+                           "LowCloudType",
+                           "MiddleCloudType",
+                           "HighCloudType",
+                           "Sunshine",
+                           "Water"};
 
 const Keys MetarRawSectionKeys = {
-    "SectionType", "SectionFlags", "FromHour", "FromMinute", "ToHour", "ToMinute",
-    "AltimeterPressure", "SeaPressureLevel", "OrizVisibility", "VisibilityDir", "WindDir",
-    "WindSpeed", "WindDirRange", "Gust", "CloudCover", "CloudType", "CloudHeigh", "Weather"};
+    "SectionType", "SectionFlags",      "FromHour",         "FromMinute",     "ToHour",
+    "ToMinute",    "AltimeterPressure", "SeaPressureLevel", "OrizVisibility", "VisibilityDir",
+    "WindDir",     "WindSpeed",         "WindDirRange",     "Gust",           "CloudCover",
+    "CloudType",   "CloudHeigh",        "Weather"};
 
 // What a new record has under each key; `other` under those that are not named.
 void ExpectMembers(const Members& members, const Keys& keys, std::string_view other,
@@ -210,7 +364,7 @@ TEST(RecordJson, KeysOfMetar) {
 
   const std::string raw = Line(RecordFields::Raw, MetarRawData{}, record);
   EXPECT_EQ(Members(raw).Names(), (Keys{"Store", "Raw"}));
-  const Members members(Members(raw)["Raw"]);
+  const Members members{Members(raw)["Raw"]};
   EXPECT_EQ(members.Names(), MetarRawKeys);
   const std::string rawSections = members["Section"];
   EXPECT_EQ(Members(rawSections.substr(1, rawSections.size() - 2)).Names(), MetarRawSectionKeys);
@@ -270,7 +424,7 @@ TEST(RecordJson, RawSynop) {
   raw.Station.Quadrant = 1;
   raw.FilterFlags = 658;
   raw.TimeOfObservation = "1230";
-  raw.WindUnitInd = 255;  // has no missing value
+  raw.WindUnitInd = 4;
   raw.Temperature = 12.3f;
   raw.SeaTemperature = -MissingFloat;
   raw.GeopotHeight = 1234;
@@ -281,7 +435,7 @@ TEST(RecordJson, RawSynop) {
   EXPECT_EQ(members["Msg"], R"("AAXX \"x\"=")");
   EXPECT_EQ(members["FilterFlags"], "658");
   EXPECT_EQ(members["TimeOfObservation"], "\"1230\"");
-  EXPECT_EQ(members["WindUnitInd"], "255");
+  EXPECT_EQ(members["WindUnitInd"], "4");
   EXPECT_EQ(members["Temperature"], "12.3");
   // A turned missing value is a number like any other.
   EXPECT_EQ(members["SeaTemperature"], "-3.402823e+38");

@@ -1,5 +1,5 @@
-// What a working record holds, told as one line of text, so that a case says all that a message sets
-// and that it sets nothing else.
+// What a working record holds, told as one line of text, so that a case says all that a message
+// sets and that it sets nothing else.
 #pragma once
 
 #include <array>

@@ -47,16 +47,16 @@ void ExpectValues(const std::vector<ValueCase>& cases) {
   for (const ValueCase& row : cases) {
     MetarRawData raw;
     row.set(raw);
-    EXPECT_EQ(row.get(Stored(raw, 1, row.kind, row.unit).data), row.english) << row.name;
-    EXPECT_EQ(row.get(Stored(raw, 0, row.kind, row.unit).data),
-              row.italian == nullptr ? row.english : row.italian)
-        << row.name;
+    const std::string_view english = row.english;
+    const std::string_view italian = row.italian == nullptr ? row.english : row.italian;
+    EXPECT_EQ(row.get(Stored(raw, 1, row.kind, row.unit).data), english) << row.name;
+    EXPECT_EQ(row.get(Stored(raw, 0, row.kind, row.unit).data), italian) << row.name;
   }
 }
 
 void Flag(Raw& raw, unsigned position) {
-  raw.FilterFlags = static_cast<std::int32_t>(static_cast<unsigned>(raw.FilterFlags) |
-                                              (1U << position));
+  raw.FilterFlags =
+      static_cast<std::int32_t>(static_cast<unsigned>(raw.FilterFlags) | (1U << position));
 }
 
 #define ZG_SET(statements) [](Raw& r) { statements; }
@@ -83,10 +83,10 @@ TEST(MetarReportText, Temperatures) {
        NoUnit, "-02.2 °C"},
       {"forecast", ZG_SET(r.ForecastTemperature[0] = 125), ZG_GET(ForecastTemperature[0]), kind,
        NoUnit, "25.0 °C"},
-      {"forecast below zero", ZG_SET(r.ForecastTemperature[1] = 95),
-       ZG_GET(ForecastTemperature[1]), kind, NoUnit, "-05.0 °C"},
-      {"forecast of nought", ZG_SET(r.ForecastTemperature[0] = 100),
-       ZG_GET(ForecastTemperature[0]), kind, NoUnit, "00.0 °C"},
+      {"forecast below zero", ZG_SET(r.ForecastTemperature[1] = 95), ZG_GET(ForecastTemperature[1]),
+       kind, NoUnit, "-05.0 °C"},
+      {"forecast of nought", ZG_SET(r.ForecastTemperature[0] = 100), ZG_GET(ForecastTemperature[0]),
+       kind, NoUnit, "00.0 °C"},
       {"forecast in Fahrenheit", ZG_SET(r.ForecastTemperature[0] = 125),
        ZG_GET(ForecastTemperature[0]), kind, " °F", "77.0 °F"},
       {"its hour", ZG_SET(r.ForecastTemperatureHour[0] = 12), ZG_GET(ForecastTemperatureTime[0]),
@@ -103,8 +103,8 @@ TEST(MetarReportText, Visibility) {
       {"runway", ZG_SET(r.RVRRunway = "24L"), ZG_GET(RVRRunway), level, NoUnit, "24L"},
       {"runway range in metres", ZG_SET(r.RVRVisibility = 1500), ZG_GET(RVRVisibility), level,
        NoUnit, "01500 m"},
-      {"in feet", ZG_SET(r.RVRVisibility = 1500; Flag(r, 24)), ZG_GET(RVRVisibility), level,
-       NoUnit, "01500 ft"},
+      {"in feet", ZG_SET(r.RVRVisibility = 1500; Flag(r, 24)), ZG_GET(RVRVisibility), level, NoUnit,
+       "01500 ft"},
       {"metres to feet", ZG_SET(r.RVRVisibility = 1500), ZG_GET(RVRVisibility), level, " ft",
        "04920 ft"},
       {"feet to metres", ZG_SET(r.RVRVisibility = 1200; Flag(r, 24)), ZG_GET(RVRVisibility), level,
@@ -138,8 +138,8 @@ TEST(MetarReportText, Visibility) {
        ZG_GET(Section[0].OrizVisibility), distance, NoUnit, "04000 m"},
       {"no unit", ZG_SET(r.Section[0].OrizVisibility = 4000), ZG_GET(Section[0].OrizVisibility),
        distance, NoUnit, ""},
-      {"its direction", ZG_SET(r.Section[0].VisibilityDir = "NE"),
-       ZG_GET(Section[0].VisibilityDir), distance, NoUnit, "NE"},
+      {"its direction", ZG_SET(r.Section[0].VisibilityDir = "NE"), ZG_GET(Section[0].VisibilityDir),
+       distance, NoUnit, "NE"},
   });
 }
 
@@ -281,20 +281,20 @@ TEST(MetarReportText, Clouds) {
        NoUnit, "Overcast", "Coperto"},
       {"cover, short", ZG_SET(r.Section[0].CloudCover[2] = 8),
        ZG_GET(Section[0].CloudCoverShort[2]), kind, NoUnit, "8/8"},
-      {"form", ZG_SET(r.Section[0].CloudType[0] = 8), ZG_GET(Section[0].CloudType[0]), kind,
-       NoUnit, "Cumulus (Cu)", "Cumulo (Cu)"},
+      {"form", ZG_SET(r.Section[0].CloudType[0] = 8), ZG_GET(Section[0].CloudType[0]), kind, NoUnit,
+       "Cumulus (Cu)", "Cumulo (Cu)"},
       {"form, short", ZG_SET(r.Section[0].CloudType[0] = 9), ZG_GET(Section[0].CloudTypeShort[0]),
        kind, NoUnit, "CB"},
       {"height", ZG_SET(r.Section[0].CloudHeigh[0] = 30), ZG_GET(Section[0].CloudHeigh[0]), kind,
        NoUnit, "03000 ft"},
       {"height in metres", ZG_SET(r.Section[0].CloudHeigh[1] = 30),
        ZG_GET(Section[0].CloudHeigh[1]), kind, " m", "00910 m"},
-      {"height of nought", ZG_SET(r.Section[0].CloudHeigh[0] = 0),
-       ZG_GET(Section[0].CloudHeigh[0]), kind, NoUnit, "00000 ft"},
+      {"height of nought", ZG_SET(r.Section[0].CloudHeigh[0] = 0), ZG_GET(Section[0].CloudHeigh[0]),
+       kind, NoUnit, "00000 ft"},
       {"sky clear", ZG_SET(Flag(r, 16)), ZG_GET(Section[0].CloudCover[0]), kind, NoUnit,
        "Sky Clear", "Cielo Sereno"},
-      {"sky clear, short", ZG_SET(Flag(r, 16)), ZG_GET(Section[0].CloudCoverShort[0]), kind,
-       NoUnit, "0/8"},
+      {"sky clear, short", ZG_SET(Flag(r, 16)), ZG_GET(Section[0].CloudCoverShort[0]), kind, NoUnit,
+       "0/8"},
       {"no significant cloud", ZG_SET(Flag(r, 23)), ZG_GET(Section[0].CloudCover[0]), kind, NoUnit,
        "No Significant Clouds", "Nubi non significative"},
       {"no significant cloud is applied last", ZG_SET(Flag(r, 16); Flag(r, 23)),
@@ -452,8 +452,7 @@ TEST(MetarReportText, Times) {
   ExpectValues({
       {"day and time", ZG_SET(r.ObservationTime = "151250"), ZG_GET(ObservationTime), kind, NoUnit,
        "15/12:50Z"},
-      {"time", ZG_SET(r.ObservationTime = "1250"), ZG_GET(ObservationTime), kind, NoUnit,
-       "12:50Z"},
+      {"time", ZG_SET(r.ObservationTime = "1250"), ZG_GET(ObservationTime), kind, NoUnit, "12:50Z"},
       {"leading noughts", ZG_SET(r.ObservationTime = "010005"), ZG_GET(ObservationTime), kind,
        NoUnit, "01/00:05Z"},
       {"another length", ZG_SET(r.ObservationTime = "15125"), ZG_GET(ObservationTime), kind, NoUnit,
@@ -471,9 +470,8 @@ TEST(MetarReportText, Times) {
       {"no period", ZG_SET(r.ValidPeriod = ""), ZG_GET(ValidPeriod), kind, NoUnit, ""},
       {"from an hour", ZG_SET(r.Section[0].FromHour = 6), ZG_GET(Section[0].FromTime), kind, NoUnit,
        "06:00Z"},
-      {"from an hour and a minute",
-       ZG_SET(r.Section[0].FromHour = 12; r.Section[0].FromMinute = 5), ZG_GET(Section[0].FromTime),
-       kind, NoUnit, "12:05Z"},
+      {"from an hour and a minute", ZG_SET(r.Section[0].FromHour = 12; r.Section[0].FromMinute = 5),
+       ZG_GET(Section[0].FromTime), kind, NoUnit, "12:05Z"},
       {"to an hour", ZG_SET(r.Section[0].ToHour = 24; r.Section[0].ToMinute = 0),
        ZG_GET(Section[0].ToTime), kind, NoUnit, "24:00Z"},
       {"a minute alone", ZG_SET(r.Section[0].ToMinute = 30), ZG_GET(Section[0].ToTime), kind,
@@ -485,10 +483,19 @@ TEST(MetarReportText, Head) {
   MetarRawData raw;
   raw.RawText = "METAR KDEN 151250Z=";
   raw.FilterFlags = 1 << 5 | 1;
-  raw.Station = {.WMOIndex = 72565, .State = "CO", .Station = "Denver",
-                 .Country = "United States", .IcaoName = "KDEN", .LatPosition = 398.3333f,
-                 .LongPosition = -1046.6666f, .StationHT = "1656", .SensorHT = "1657",
-                 .Quadrant = 7, .MsgId = "SAUS31", .Type = "METAR", .Sender = "KWBC",
+  raw.Station = {.WMOIndex = 72565,
+                 .State = "CO",
+                 .Station = "Denver",
+                 .Country = "United States",
+                 .IcaoName = "KDEN",
+                 .LatPosition = 398.3333f,
+                 .LongPosition = -1046.6666f,
+                 .StationHT = "1656",
+                 .SensorHT = "1657",
+                 .Quadrant = 7,
+                 .MsgId = "SAUS31",
+                 .Type = "METAR",
+                 .Sender = "KWBC",
                  .AddedInfo = "RRA"};
   const Stored stored(raw);
   const MetarData& record = stored.data;
@@ -538,16 +545,45 @@ TEST(MetarReportText, Booleans) {
 TEST(MetarReportText, MissingValuesHaveNoText) {
   const Stored stored(MetarRawData{});
   const MetarData& d = stored.data;
-  for (std::string_view text :
-       {d.RawText, d.ObservationTime, d.ValidPeriod, d.BulletinTime, d.ForecastTemperature[0],
-        d.ForecastTemperature[1], d.ForecastTemperatureTime[0], d.ForecastTemperatureTime[1],
-        d.Temperature, d.Dewpoint, d.RVRRunway, d.RVRVisibility, d.RVRVisibilitymax,
-        d.VerticalVisibility, d.VerticalVisibilityCopy, d.WindShearLevel, d.WindShearDir,
-        d.WindShearSpeed, d.OtherRemarks, d.WindRemarks, d.MaxTemperature6h, d.MinTemperature6h,
-        d.MaxTemperature24h, d.MinTemperature24h, d.Sunshine, d.PrecipHour, d.Precip3h, d.Precip6h,
-        d.Precip24h, d.Water, d.SnowDepth, d.PressTendency, d.PressTendencyVal, d.LowCloudType,
-        d.MiddleCloudType, d.HighCloudType, d.Station.LatPosition, d.Station.LongPosition,
-        d.Station.Quadrant}) {
+  for (std::string_view text : {d.RawText,
+                                d.ObservationTime,
+                                d.ValidPeriod,
+                                d.BulletinTime,
+                                d.ForecastTemperature[0],
+                                d.ForecastTemperature[1],
+                                d.ForecastTemperatureTime[0],
+                                d.ForecastTemperatureTime[1],
+                                d.Temperature,
+                                d.Dewpoint,
+                                d.RVRRunway,
+                                d.RVRVisibility,
+                                d.RVRVisibilitymax,
+                                d.VerticalVisibility,
+                                d.VerticalVisibilityCopy,
+                                d.WindShearLevel,
+                                d.WindShearDir,
+                                d.WindShearSpeed,
+                                d.OtherRemarks,
+                                d.WindRemarks,
+                                d.MaxTemperature6h,
+                                d.MinTemperature6h,
+                                d.MaxTemperature24h,
+                                d.MinTemperature24h,
+                                d.Sunshine,
+                                d.PrecipHour,
+                                d.Precip3h,
+                                d.Precip6h,
+                                d.Precip24h,
+                                d.Water,
+                                d.SnowDepth,
+                                d.PressTendency,
+                                d.PressTendencyVal,
+                                d.LowCloudType,
+                                d.MiddleCloudType,
+                                d.HighCloudType,
+                                d.Station.LatPosition,
+                                d.Station.LongPosition,
+                                d.Station.Quadrant}) {
     EXPECT_EQ(text, "");
   }
   ASSERT_EQ(d.SectionCount(), 1);

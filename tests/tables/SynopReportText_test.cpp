@@ -48,10 +48,10 @@ void ExpectValues(const std::vector<ValueCase>& cases) {
   for (const ValueCase& row : cases) {
     SynopRawData raw;
     row.set(raw);
-    EXPECT_EQ(row.get(Stored(raw, 1, row.kind, row.unit).data), row.english) << row.name;
-    EXPECT_EQ(row.get(Stored(raw, 0, row.kind, row.unit).data),
-              row.italian == nullptr ? row.english : row.italian)
-        << row.name;
+    const std::string_view english = row.english;
+    const std::string_view italian = row.italian == nullptr ? row.english : row.italian;
+    EXPECT_EQ(row.get(Stored(raw, 1, row.kind, row.unit).data), english) << row.name;
+    EXPECT_EQ(row.get(Stored(raw, 0, row.kind, row.unit).data), italian) << row.name;
   }
 }
 
@@ -107,11 +107,10 @@ TEST(SynopReportText, SkyAndVisibility) {
       {"visibility in miles", ZG_SET(r.Visibility = 60), ZG_GET(Visibility), distance, " SM",
        "06.2 SM"},
       {"visibility under a bound", ZG_SET(r.Visibility = 89), ZG_GET(Visibility), distance, NoUnit,
-       "> 70.0 km"},
+       "> 70 km"},
       {"visibility of no meaning", ZG_SET(r.Visibility = 53), ZG_GET(Visibility), distance, " m",
        ""},
-      {"cover", ZG_SET(r.CloudCover = 8), ZG_GET(CloudCover), level, NoUnit, "Overcast",
-       "Coperto"},
+      {"cover", ZG_SET(r.CloudCover = 8), ZG_GET(CloudCover), level, NoUnit, "Overcast", "Coperto"},
       {"amount of low clouds", ZG_SET(r.CloudAmount = 3), ZG_GET(CloudAmount), level, NoUnit,
        "3/8"},
       {"low clouds", ZG_SET(r.LowCloudType = 0), ZG_GET(LowCloudType), level, NoUnit,
@@ -228,8 +227,7 @@ TEST(SynopReportText, Pressure) {
        "29.92 inHg"},
       {"sea level, whole", ZG_SET(r.SeaLevPressure = 1013), ZG_GET(SeaLevPressure), kind, " hpa",
        "1013.0 hpa"},
-      {"level", ZG_SET(r.GeopotPressure = 850), ZG_GET(GeopotPressure), kind, NoUnit,
-       "0850.0 hpa"},
+      {"level", ZG_SET(r.GeopotPressure = 850), ZG_GET(GeopotPressure), kind, NoUnit, "0850.0 hpa"},
       {"height of the level", ZG_SET(r.GeopotHeight = 1499), ZG_GET(GeopotHeight), UnitKind::Level,
        NoUnit, "01499 m"},
       {"height of the level in feet", ZG_SET(r.GeopotHeight = 1000), ZG_GET(GeopotHeight),
@@ -256,8 +254,7 @@ TEST(SynopReportText, WeatherAndPrecipitation) {
       {"further past", ZG_SET(r.PastWeather2 = 9), ZG_GET(PastWeather2), kind, NoUnit,
        "Thunderstorms", "Temporali"},
       {"amount", ZG_SET(r.PrecipitAmount1 = 2), ZG_GET(PrecipitAmount1), kind, " ft", "002 mm"},
-      {"trace", ZG_SET(r.PrecipitAmount1 = 990), ZG_GET(PrecipitAmount1), kind, NoUnit,
-       "Trace   "},
+      {"trace", ZG_SET(r.PrecipitAmount1 = 990), ZG_GET(PrecipitAmount1), kind, NoUnit, "Trace   "},
       {"tenths", ZG_SET(r.PrecipitAmount1 = 991), ZG_GET(PrecipitAmount1), kind, NoUnit, "000 mm"},
       {"none", ZG_SET(r.PrecipitAmount1 = 0), ZG_GET(PrecipitAmount1), kind, NoUnit, ""},
       {"period", ZG_SET(r.PrecipitDuration1 = 1), ZG_GET(PrecipitDuration1), kind, NoUnit,
@@ -287,10 +284,21 @@ TEST(SynopReportText, WeatherSymbol) {
     const char* symbol;
   };
   const Row rows[] = {
-      {0, MissingByte, "Q"},  {1, MissingByte, "R"}, {2, MissingByte, "R"}, {3, MissingByte, "B"},
-      {4, MissingByte, "B"},  {5, MissingByte, "B"}, {6, MissingByte, "S"}, {7, MissingByte, "S"},
-      {8, MissingByte, "S"},  {9, MissingByte, ""},  {MissingByte, MissingByte, ""},
-      {8, 2, "S"},            {8, 3, "B"},           {0, 61, "A"},          {MissingByte, 61, "A"},
+      {0, MissingByte, "Q"},
+      {1, MissingByte, "R"},
+      {2, MissingByte, "R"},
+      {3, MissingByte, "B"},
+      {4, MissingByte, "B"},
+      {5, MissingByte, "B"},
+      {6, MissingByte, "S"},
+      {7, MissingByte, "S"},
+      {8, MissingByte, "S"},
+      {9, MissingByte, ""},
+      {MissingByte, MissingByte, ""},
+      {8, 2, "S"},
+      {8, 3, "B"},
+      {0, 61, "A"},
+      {MissingByte, 61, "A"},
       {MissingByte, 2, ""},
   };
   for (const Row& row : rows) {
@@ -315,10 +323,11 @@ TEST(SynopReportText, Sea) {
        ZG_GET(SeaTemperType), kind, NoUnit, "Container", "Contenitore"},
       {"not without the temperature", ZG_SET(r.SeaTemperType = 2), ZG_GET(SeaTemperType), kind,
        NoUnit, ""},
-      {"with the turned missing value", ZG_SET(r.SeaTemperature = -MissingFloat; r.SeaTemperType = 1),
-       ZG_GET(SeaTemperType), kind, NoUnit, "Immission", "Immissione"},
-      {"kind of wet bulb", ZG_SET(r.WetTemperature = 1; r.WetTemperType = 5),
-       ZG_GET(WetTemperType), kind, NoUnit, "Calculated", "Calcolata"},
+      {"with the turned missing value",
+       ZG_SET(r.SeaTemperature = -MissingFloat; r.SeaTemperType = 1), ZG_GET(SeaTemperType), kind,
+       NoUnit, "Immission", "Immissione"},
+      {"kind of wet bulb", ZG_SET(r.WetTemperature = 1; r.WetTemperType = 5), ZG_GET(WetTemperType),
+       kind, NoUnit, "Calculated", "Calcolata"},
       {"not without the wet bulb", ZG_SET(r.WetTemperType = 5), ZG_GET(WetTemperType), kind, NoUnit,
        ""},
       {"period of waves", ZG_SET(r.WavePeriod = 3), ZG_GET(WavePeriod), kind, NoUnit, "3 sec"},
@@ -415,10 +424,19 @@ TEST(SynopReportText, Head) {
   SynopRawData raw;
   raw.Msg = "AAXX 12001 16242=";
   raw.FilterFlags = 1 << 4;
-  raw.Station = {.WMOIndex = 72565, .State = "CO", .Station = "Denver",
-                 .Country = "United States", .IcaoName = "KDEN", .LatPosition = 398.3333f,
-                 .LongPosition = -1046.6666f, .StationHT = "1656", .SensorHT = "",
-                 .Quadrant = 7, .MsgId = "SMUS01", .Type = "AAXX", .Sender = "KWBC",
+  raw.Station = {.WMOIndex = 72565,
+                 .State = "CO",
+                 .Station = "Denver",
+                 .Country = "United States",
+                 .IcaoName = "KDEN",
+                 .LatPosition = 398.3333f,
+                 .LongPosition = -1046.6666f,
+                 .StationHT = "1656",
+                 .SensorHT = "",
+                 .Quadrant = 7,
+                 .MsgId = "SMUS01",
+                 .Type = "AAXX",
+                 .Sender = "KWBC",
                  .AddedInfo = "RRA"};
   const Stored stored(raw);
   EXPECT_EQ(stored.data.Msg, "AAXX 12001 16242=");
@@ -440,8 +458,8 @@ TEST(SynopReportText, StationKind) {
     std::int32_t kind;
   };
   const Row rows[] = {
-      {"AAXX", "16242", 1}, {"AAXX", "DBBH", 1},  {"METAR", "LIRF", 1}, {"", "DBBH", 1},
-      {"BBXX", "DBBH", 2},  {"BBXX", "9CAA", 2},  {"BBXX", "62001", 3}, {"BBXX", "62A01", 3},
+      {"AAXX", "16242", 1}, {"AAXX", "DBBH", 1}, {"METAR", "LIRF", 1}, {"", "DBBH", 1},
+      {"BBXX", "DBBH", 2},  {"BBXX", "9CAA", 2}, {"BBXX", "62001", 3}, {"BBXX", "62A01", 3},
       {"BBXX", "A2001", 2}, {"BBXX", "", 3},
   };
   for (const Row& row : rows) {
@@ -466,21 +484,74 @@ TEST(SynopReportText, HumidityFlag) {
 TEST(SynopReportText, MissingValuesHaveNoText) {
   const Stored stored(SynopRawData{});
   const SynopData& d = stored.data;
-  for (std::string_view text :
-       {d.Msg, d.TimeOfObservation, d.IssueTime, d.PrecipInd, d.StationType, d.LowestCloud,
-        d.Visibility, d.CloudCover, d.WindDirection, d.WindSpeed, d.DewPoint, d.Humidity,
-        d.Temperature, d.StatPressure, d.SeaLevPressure, d.GeopotHeight, d.GeopotPressure,
-        d.PressTendency, d.PressTendencyVal, d.PrecipitAmount1, d.PrecipitDuration1,
-        d.PresentWeather, d.WeatherSymb, d.PastWeather1, d.PastWeather2, d.CloudAmount,
-        d.LowCloudType, d.MiddleCloudType, d.HighCloudType, d.MaxTemperature, d.MinTemperature,
-        d.RegionalData1, d.RegionalData2, d.SnowState, d.SnowDepth, d.OtherInfo,
-        d.PrecipitAmount2, d.PrecipitDuration2, d.PastPrecipitAmount, d.SupplInfo, d.WindAt10mt,
-        d.WindAt20mt, d.MaxWindSpeedTime, d.MaxWindSpeed, d.MaxWindDir, d.ContinueWindTime,
-        d.ShipDirection, d.ShipAvSpeed, d.SeaTemperature, d.SeaTemperType, d.WavePeriod,
-        d.WaveHeight, d.WavePeriodPredom, d.WaveHeightPredom, d.WaveDirPredom, d.WavePeriodSecond,
-        d.WaveHeightSecond, d.WaveDirSecond, d.ShipIceAccretion, d.ThicknessOfIce,
-        d.RateIceAccretion, d.WetTemperature, d.WetTemperType, d.SeaIceConcentration,
-        d.SeaIceStage, d.SeaIceBearingEdge, d.IceOfLandOrigin, d.IceSituation}) {
+  for (std::string_view text : {d.Msg,
+                                d.TimeOfObservation,
+                                d.IssueTime,
+                                d.PrecipInd,
+                                d.StationType,
+                                d.LowestCloud,
+                                d.Visibility,
+                                d.CloudCover,
+                                d.WindDirection,
+                                d.WindSpeed,
+                                d.DewPoint,
+                                d.Humidity,
+                                d.Temperature,
+                                d.StatPressure,
+                                d.SeaLevPressure,
+                                d.GeopotHeight,
+                                d.GeopotPressure,
+                                d.PressTendency,
+                                d.PressTendencyVal,
+                                d.PrecipitAmount1,
+                                d.PrecipitDuration1,
+                                d.PresentWeather,
+                                d.WeatherSymb,
+                                d.PastWeather1,
+                                d.PastWeather2,
+                                d.CloudAmount,
+                                d.LowCloudType,
+                                d.MiddleCloudType,
+                                d.HighCloudType,
+                                d.MaxTemperature,
+                                d.MinTemperature,
+                                d.RegionalData1,
+                                d.RegionalData2,
+                                d.SnowState,
+                                d.SnowDepth,
+                                d.OtherInfo,
+                                d.PrecipitAmount2,
+                                d.PrecipitDuration2,
+                                d.PastPrecipitAmount,
+                                d.SupplInfo,
+                                d.WindAt10mt,
+                                d.WindAt20mt,
+                                d.MaxWindSpeedTime,
+                                d.MaxWindSpeed,
+                                d.MaxWindDir,
+                                d.ContinueWindTime,
+                                d.ShipDirection,
+                                d.ShipAvSpeed,
+                                d.SeaTemperature,
+                                d.SeaTemperType,
+                                d.WavePeriod,
+                                d.WaveHeight,
+                                d.WavePeriodPredom,
+                                d.WaveHeightPredom,
+                                d.WaveDirPredom,
+                                d.WavePeriodSecond,
+                                d.WaveHeightSecond,
+                                d.WaveDirSecond,
+                                d.ShipIceAccretion,
+                                d.ThicknessOfIce,
+                                d.RateIceAccretion,
+                                d.WetTemperature,
+                                d.WetTemperType,
+                                d.SeaIceConcentration,
+                                d.SeaIceStage,
+                                d.SeaIceBearingEdge,
+                                d.IceOfLandOrigin,
+                                d.IceSituation}) {
     EXPECT_EQ(text, "");
   }
   for (std::size_t i = 0; i < SynopCloudLayers; ++i) {

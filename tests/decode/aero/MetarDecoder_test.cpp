@@ -79,16 +79,16 @@ TEST(MetarDecoder, Heading) {
        "15/12:00Z", "1,6,11"},
       {"no type word", MessageType::METAR, "SAIY31 LIIB 151200 LIRF 151250Z 27010KT", 3, "",
        "15/12:00Z", "1,5,11"},
-      {"added information", MessageType::METAR,
-       "SAIY31 LIIB 151200 RRA METAR LIRF 151250Z 27010KT", 5, "RRA", "15/12:00Z", "1,5,11"},
+      {"added information", MessageType::METAR, "SAIY31 LIIB 151200 RRA METAR LIRF 151250Z 27010KT",
+       5, "RRA", "15/12:00Z", "1,5,11"},
       {"the first of them", MessageType::METAR,
        "SAIY31 LIIB 151200 CCA CCB METAR LIRF 151250Z 27010KT", 6, "CCA", "15/12:00Z", "1,5,11"},
       {"behind the type word", MessageType::METAR,
        "SAIY31 LIIB 151200 METAR COR LIRF 151250Z 27010KT", 5, "COR", "15/12:00Z", "1,5,11"},
       {"words that hold a type word", MessageType::TAF,
        "FCIY31 LIIB 151200 XTAFX AMD LIRF 151212 27010KT", 5, "AMD", "15/12:00Z", "1,6,11"},
-      {"time in the heading cut", MessageType::METAR,
-       "SAIY31 LIIB 151200123 LIRF 151250Z 27010KT", 3, "", "15/12:00Z", "1,5,11"},
+      {"time in the heading cut", MessageType::METAR, "SAIY31 LIIB 151200123 LIRF 151250Z 27010KT",
+       3, "", "15/12:00Z", "1,5,11"},
       {"four figures of time", MessageType::METAR, "SAIY31 LIIB 1200 LIRF 151250Z 27010KT", 3, "",
        "12:00Z", "1,5,11"},
       {"another length of time", MessageType::METAR, "SAIY31 LIIB 15120 LIRF 151250Z 27010KT", 3,
@@ -380,8 +380,7 @@ TEST(MetarDecoder, Nil) {
 TEST(MetarDecoder, WrongItemsAreLogged) {
   MetarBench bench;
   ASSERT_TRUE(bench.DecodeTypedReport("LIRF 151250Z 1/0SM RA").Stored);
-  EXPECT_EQ(bench.Log.Lines,
-            std::vector<std::string>{"Wrong item found. - Line: 7 - Item: 1/0SM"});
+  EXPECT_EQ(bench.Log.Lines, std::vector<std::string>{"Wrong item found. - Line: 7 - Item: 1/0SM"});
   EXPECT_EQ(bench.Fields, "Flags=14 Weather0=RA");
   bench.Texts.SetLanguage(0);
   ASSERT_TRUE(bench.DecodeTypedReport("LIRF 151250Z 1/0SM RA").Stored);

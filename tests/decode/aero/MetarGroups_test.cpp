@@ -199,8 +199,7 @@ TEST(MetarGroups, WindShear) {
   ExpectWords({
       {"warning of a runway", "WS R24", "Flags=22"},
       {"all runways", "WS ALL RWY", "Flags=22"},
-      {"with values", "WS020/24045KT",
-       "; WindShearLevel=20 WindShearDir=240 WindShearSpeed=45"},
+      {"with values", "WS020/24045KT", "; WindShearLevel=20 WindShearDir=240 WindShearSpeed=45"},
       {"is no wind, whatever follows", "WS020/24045KT 4000",
        "; WindShearLevel=20 WindShearDir=240 WindShearSpeed=45"},
       {"no level", "WS/24045KT", "; WindShearDir=240 WindShearSpeed=45"},
@@ -287,8 +286,7 @@ TEST(MetarGroups, ForecastTemperature) {
   ExpectWords(
       {
           {"with hour", "151218 T25/12Z", "; ForecastTemperature0=125 ForecastTemperatureHour0=12"},
-          {"below zero", "151218 TM05/06Z",
-           "; ForecastTemperature0=95 ForecastTemperatureHour0=6"},
+          {"below zero", "151218 TM05/06Z", "; ForecastTemperature0=95 ForecastTemperatureHour0=6"},
           {"another letter is no number", "151218 TX25/12Z", "; ForecastTemperatureHour0=12"},
           {"two", "151218 T25/12Z T15/03Z",
            "; ForecastTemperature0=125 ForecastTemperature1=115 ForecastTemperatureHour0=12 "
@@ -315,13 +313,11 @@ TEST(MetarGroups, FreeWordsOfForecasts) {
           {"after a time", "151218 AFT 1230Z", "; WindRemarks='After 12:30 '"},
           {"after a word", "151218 AFT RA", "Weather0=RA ; WindRemarks='After '"},
           {"after as last word", "151218 AFT", "; WindRemarks='After '"},
-          {"after twice", "151218 AFT 12 AFT 1345",
-           "; WindRemarks='After After 12:00 13:45 '"},
+          {"after twice", "151218 AFT 12 AFT 1345", "; WindRemarks='After After 12:00 13:45 '"},
           {"wind", "151218 WND 27010KT RA", "Weather0=RA ; WindRemarks='Wind 27010KT '"},
           {"wind drops what was there", "151218 AFT 12 WND 27010KT RA",
            "Weather0=RA ; WindRemarks='Wind 27010KT '"},
-          {"wind, after", "151218 WND 27010KT AFT 12",
-           "; WindRemarks='After Wind 27010KT 12:00 '"},
+          {"wind, after", "151218 WND 27010KT AFT 12", "; WindRemarks='After Wind 27010KT 12:00 '"},
           {"all of its parts", "151218 WND 27010KT VRB05KT 250V310 27035/15",
            "; WindRemarks='Wind 27010KT VRB05KT 250-31027035/15 '"},
           {"wind alone", "151218 WND RA", "Weather0=RA ; WindRemarks='Wind '"},

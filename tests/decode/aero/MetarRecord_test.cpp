@@ -32,20 +32,44 @@ TEST(MetarRecord, Reset) {
   MetarRawData raw;
   raw.Accepted = 1;
   raw.RawText = "METAR LIRF=";
-  raw.Station = {.WMOIndex = 16242, .State = "CO", .Station = "Denver", .Country = "Italy",
-                 .IcaoName = "KDEN", .LatPosition = 1.0f, .LongPosition = 2.0f,
-                 .StationHT = "0001", .SensorHT = "0002", .Quadrant = 1, .MsgId = "SAIY31",
-                 .Type = "METAR", .Sender = "LIIB", .AddedInfo = "COR", .StationKind = 1};
+  raw.Station = {.WMOIndex = 16242,
+                 .State = "CO",
+                 .Station = "Denver",
+                 .Country = "Italy",
+                 .IcaoName = "KDEN",
+                 .LatPosition = 1.0f,
+                 .LongPosition = 2.0f,
+                 .StationHT = "0001",
+                 .SensorHT = "0002",
+                 .Quadrant = 1,
+                 .MsgId = "SAIY31",
+                 .Type = "METAR",
+                 .Sender = "LIIB",
+                 .AddedInfo = "COR",
+                 .StationKind = 1};
   raw.ObservationTime = "151250";
   raw.ValidPeriod = "151218";
   raw.BulletinTime = "151200";
   raw.FilterFlags = -1;
   for (MetarRawSection& section : raw.Section) {
-    section = {.SectionType = 1, .SectionFlags = 3, .FromHour = 1, .FromMinute = 2, .ToHour = 3,
-               .ToMinute = 4, .AltimeterPressure = 5, .SeaPressureLevel = 6, .OrizVisibility = 7,
-               .VisibilityDir = "N", .WindDir = 8, .WindSpeed = 9, .WindDirRange = "350-040",
-               .Gust = 10, .CloudCover = {1, 2, 3}, .CloudType = {4, 5, 6},
-               .CloudHeigh = {7, 8, 9}, .Weather = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}};
+    section = {.SectionType = 1,
+               .SectionFlags = 3,
+               .FromHour = 1,
+               .FromMinute = 2,
+               .ToHour = 3,
+               .ToMinute = 4,
+               .AltimeterPressure = 5,
+               .SeaPressureLevel = 6,
+               .OrizVisibility = 7,
+               .VisibilityDir = "N",
+               .WindDir = 8,
+               .WindSpeed = 9,
+               .WindDirRange = "350-040",
+               .Gust = 10,
+               .CloudCover = {1, 2, 3},
+               .CloudType = {4, 5, 6},
+               .CloudHeigh = {7, 8, 9},
+               .Weather = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}};
   }
   raw.SectionIndex = 14;
   raw.ForecastTemperature = {1, 2};

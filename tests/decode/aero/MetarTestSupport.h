@@ -17,8 +17,8 @@ namespace zg::test {
 // The codes of a weather set, by their bits.
 inline std::string WeatherBitsText(std::uint32_t bits) {
   constexpr std::array<std::string_view, 31> names = {
-      "MI", "BC", "PR", "DR", "BL", "SH", "TS", "FZ", "DZ", "RA",    "SN",
-      "SG", "IC", "PE", "GR", "GS", "BR", "FG", "FU", "VA", "DU",    "SA",
+      "MI", "BC", "PR", "DR", "BL", "SH", "TS", "FZ", "DZ", "RA", "SN",
+      "SG", "IC", "PE", "GR", "GS", "BR", "FG", "FU", "VA", "DU", "SA",
       "HZ", "PO", "SQ", "FC", "SS", "DS", "-",  "+",  "VC"};
   std::string text;
   for (std::size_t i = 0; i < names.size(); ++i) {
@@ -56,7 +56,8 @@ inline void DescribeSection(FieldLine& line, const MetarRawSection& section) {
 // each behind "|", the values of the whole message behind ";". Station and times are left out.
 inline std::string Describe(const MetarRawData& raw) {
   FieldLine line;
-  line.Reported("Flags", std::string_view(BitsText(static_cast<std::uint32_t>(raw.FilterFlags), 7)));
+  line.Reported("Flags",
+                std::string_view(BitsText(static_cast<std::uint32_t>(raw.FilterFlags), 7)));
   for (int i = 0; i <= raw.SectionIndex; ++i) {
     if (i > 0) line.Break("|");
     DescribeSection(line, raw.Section[static_cast<std::size_t>(i)]);

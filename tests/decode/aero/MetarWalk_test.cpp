@@ -47,11 +47,12 @@ std::string_view NameOf(std::span<const Recogniser> table, std::size_t number) {
 
 // A word for each test, in the order of the tests.
 constexpr std::string_view WordsInOrder[] = {
-    "TAF",   "AUTO",      "CAVOK",    "NOSIG",  "NSW",    "NSC",           "9999", "1 1/2SM",
-    "5KM",   "AFT 12",    "WND RA",   "09010KT", "Q1013",  "18/12",         "BECMG 1518",
-    "BKN020", "CLR",      "FEW010",   "QNH1013", "FM12",   "OVC010",        "PROB30 1518",
-    "R24/1500", "RMK",    "SCT010",   "SKC",    "10SM",   "TEMPO 1518",    "INTER 1518",
-    "VV010", "WS020/24045KT", "TCU",  "CB",     "CU",     "151250Z",       "RA"};
+    "TAF",           "AUTO",    "CAVOK",      "NOSIG",       "NSW",        "NSC",
+    "9999",          "1 1/2SM", "5KM",        "AFT 12",      "WND RA",     "09010KT",
+    "Q1013",         "18/12",   "BECMG 1518", "BKN020",      "CLR",        "FEW010",
+    "QNH1013",       "FM12",    "OVC010",     "PROB30 1518", "R24/1500",   "RMK",
+    "SCT010",        "SKC",     "10SM",       "TEMPO 1518",  "INTER 1518", "VV010",
+    "WS020/24045KT", "TCU",     "CB",         "CU",          "151250Z",    "RA"};
 
 TEST(MetarWalk, OrderOfTests) {
   const auto table = MetarRecognisers();
@@ -183,9 +184,23 @@ TEST(MetarWalk, NotInRemarks) {
 
 // The index only leaves out entries that would decline.
 TEST(MetarWalk, IndexAgreesWithTheTable) {
-  constexpr std::string_view more[] = {
-      "+RA", "-SHRA", "VCTS", "M05/M07", "T25/12Z", "WS", "XPROB40 1518", "XBECMG 1518", "ABC",
-      "R24", "\xC4" "BC", "///", "0", "=", "1/0SM", "270P9KT"};
+  constexpr std::string_view more[] = {"+RA",
+                                       "-SHRA",
+                                       "VCTS",
+                                       "M05/M07",
+                                       "T25/12Z",
+                                       "WS",
+                                       "XPROB40 1518",
+                                       "XBECMG 1518",
+                                       "ABC",
+                                       "R24",
+                                       "\xC4"
+                                       "BC",
+                                       "///",
+                                       "0",
+                                       "=",
+                                       "1/0SM",
+                                       "270P9KT"};
   const auto table = MetarRecognisers();
   const RecogniserIndex index(table);
   const auto check = [&](std::string_view words) {
@@ -225,8 +240,7 @@ TEST(MetarWalk, OfferWord) {
       {"wrong", "1/0SM", Verdict::Wrong, 0, "Flags=14"},
       {"period passed", "PROB30 TEMPO 1518", Verdict::Taken, 2,
        "| SectionType=5 SectionFlags=1 FromHour=15 FromMinute=0 ToHour=18 ToMinute=0"},
-      {"no period to pass", "PROB30 TEMPO RA", Verdict::Taken, 0,
-       "| SectionType=5 SectionFlags=1"},
+      {"no period to pass", "PROB30 TEMPO RA", Verdict::Taken, 0, "| SectionType=5 SectionFlags=1"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);

@@ -7,9 +7,9 @@ using test::ExpectWords;
 using test::WordsDecoder;
 
 TEST(MetarWeather, EachCodeHasItsBit) {
-  for (const char* code : {"MI", "BC", "PR", "DR", "BL", "SH", "TS", "FZ", "DZ", "RA",
-                           "SN", "SG", "IC", "PE", "GR", "GS", "BR", "FG", "FU", "VA",
-                           "DU", "SA", "HZ", "PO", "SQ", "FC", "SS", "DS"}) {
+  for (const char* code :
+       {"MI", "BC", "PR", "DR", "BL", "SH", "TS", "FZ", "DZ", "RA", "SN", "SG", "IC", "PE",
+        "GR", "GS", "BR", "FG", "FU", "VA", "DU", "SA", "HZ", "PO", "SQ", "FC", "SS", "DS"}) {
     WordsDecoder decoder;
     EXPECT_EQ(decoder.Decode(MessageType::METAR, code), std::string("Weather0=") + code);
     EXPECT_EQ(decoder.Wrong(), "");

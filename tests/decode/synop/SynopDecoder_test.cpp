@@ -190,8 +190,7 @@ TEST(SynopDecoder, StationNil) {
   for (const std::uint8_t language : {std::uint8_t{0}, std::uint8_t{1}}) {
     SynopBench bench;
     bench.Texts.SetLanguage(language);
-    const auto outcome =
-        bench.Decode(BBXX, "SMVD01 EDZW 151200 BBXX NIL 15121 99423 10123 41256");
+    const auto outcome = bench.Decode(BBXX, "SMVD01 EDZW 151200 BBXX NIL 15121 99423 10123 41256");
     EXPECT_FALSE(outcome.Stored);
     EXPECT_TRUE(outcome.PrintWrongLine);
     EXPECT_EQ(bench.Log.Lines, Lines{"Station = NIL; Line: 7 - Item: 15121"});
@@ -224,14 +223,30 @@ TEST(SynopDecoder, WindUnit) {
   // Each message comes behind the one before.
   const Row rows[] = {
       {"ship, knots", BBXX, "BBXX DBBH 15124 99423 10123 ///// ///10", 4, "10.0 KTS (Anem.)", {}},
-      {"ship that does not say", BBXX, "BBXX DBBH 1512/ 99423 10123 ///// ///10", 4,
-       "10.0 KTS (Anem.)", {}},
-      {"land that cannot be read", AAXX, "AAXX 1512/ 16242 ///// ///10 10123", 4,
-       "10.0 KTS (Anem.)", {"Wrong item found. - Line: 7 - Item: 1512/"}},
-      {"land, metres a second", AAXX, "AAXX 15120 16242 ///// ///10 10123", 0,
-       "10.0 mps (Estim.)", {}},
-      {"ship of a letter is nought", BBXX, "BBXX DBBH 1512X 99423 10123 ///// ///10", 0,
-       "10.0 mps (Estim.)", {}},
+      {"ship that does not say",
+       BBXX,
+       "BBXX DBBH 1512/ 99423 10123 ///// ///10",
+       4,
+       "10.0 KTS (Anem.)",
+       {}},
+      {"land that cannot be read",
+       AAXX,
+       "AAXX 1512/ 16242 ///// ///10 10123",
+       4,
+       "10.0 KTS (Anem.)",
+       {"Wrong item found. - Line: 7 - Item: 1512/"}},
+      {"land, metres a second",
+       AAXX,
+       "AAXX 15120 16242 ///// ///10 10123",
+       0,
+       "10.0 mps (Estim.)",
+       {}},
+      {"ship of a letter is nought",
+       BBXX,
+       "BBXX DBBH 1512X 99423 10123 ///// ///10",
+       0,
+       "10.0 mps (Estim.)",
+       {}},
       {"land, unknown unit", AAXX, "AAXX 15122 16242 ///// ///10 10123", 2, "", {}},
       {"carried over from land", BBXX, "BBXX DBBH 1512/ 99423 10123 ///// ///10", 2, "", {}},
   };
@@ -247,8 +262,7 @@ TEST(SynopDecoder, WindUnit) {
 
 TEST(SynopDecoder, NoIssueTimeWithoutHeading) {
   SynopBench bench;
-  ASSERT_TRUE(
-      bench.Decode(AAXX, "SMIY01 LIIB 151200 AAXX 15121 16242 41256 82703 10123").Stored);
+  ASSERT_TRUE(bench.Decode(AAXX, "SMIY01 LIIB 151200 AAXX 15121 16242 41256 82703 10123").Stored);
   ASSERT_TRUE(bench.Decode(AAXX, "AAXX 15121 16242 41256 82703 10123", false).Stored);
   EXPECT_EQ(bench.Last().IssueTime, "");
   EXPECT_EQ(bench.Last().Station.MsgId, "");
@@ -291,15 +305,39 @@ TEST(SynopDecoder, Filters) {
       {"not south-east", BBXX, southEast, {""}, 13, 7, false, true},
       {"not south-west", BBXX, buoy, {""}, 11, 7, false, true},
       {"not north-west", BBXX, ship, {""}, 7, 7, false, true},
-      {"unknown land station", AAXX, "AAXX 15121 99999 41256 82703 10123", {""}, 15, 7, false,
+      {"unknown land station",
+       AAXX,
+       "AAXX 15121 99999 41256 82703 10123",
+       {""},
+       15,
+       7,
+       false,
        false},
-      {"ship without country", BBXX, "BBXX SHIP 15121 99423 70123 41256 82703", {""}, 15, 7, false,
+      {"ship without country",
+       BBXX,
+       "BBXX SHIP 15121 99423 70123 41256 82703",
+       {""},
+       15,
+       7,
+       false,
        true},
       {"no quadrant", BBXX, "BBXX DBBH 15121 99423 /0123 41256 82703", {""}, 15, 7, false, false},
-      {"another quadrant", BBXX, "BBXX DBBH 15121 99423 20123 41256 82703", {""}, 15, 7, false,
+      {"another quadrant",
+       BBXX,
+       "BBXX DBBH 15121 99423 20123 41256 82703",
+       {""},
+       15,
+       7,
+       false,
        false},
-      {"quadrant that is no figure", BBXX, "BBXX DBBH 15121 99423 X0123 41256 82703", {""}, 15, 7,
-       false, false},
+      {"quadrant that is no figure",
+       BBXX,
+       "BBXX DBBH 15121 99423 X0123 41256 82703",
+       {""},
+       15,
+       7,
+       false,
+       false},
   };
   for (const Row& row : rows) {
     for (const bool single : {false, true}) {
@@ -381,8 +419,7 @@ TEST(SynopDecoder, NilOfAnotherSpelling) {
 
 TEST(SynopDecoder, ShipThatTurnsOutNil) {
   SynopBench bench;
-  const auto outcome =
-      bench.Decode(BBXX, "SMVD01 EDZW 151200 BBXX DBBH 15121 99423 10123 NIL");
+  const auto outcome = bench.Decode(BBXX, "SMVD01 EDZW 151200 BBXX DBBH 15121 99423 10123 NIL");
   EXPECT_FALSE(outcome.Stored);
   EXPECT_TRUE(outcome.PrintWrongLine);
   EXPECT_EQ(bench.Observer.Removed, Lines{"DBBH [42.18N 012.18E]"});

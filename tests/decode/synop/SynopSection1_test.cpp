@@ -150,19 +150,21 @@ TEST(SynopSection1, HighWindYieldsToTheWindGroup) {
 
 // Five or three characters that begin with the marker end the section, a dew point among them.
 TEST(SynopSection1, Markers) {
-  ExpectGroups("///// ///// ", {
-                                   {"10123 222 10305", "Flags=10 Temperature=12.3 WavePeriod=3 WaveHeight=2.5"},
-                                   {"22211 10305", "Flags=10 ShipDirection=1 ShipAvSpeed=1 WavePeriod=3 WaveHeight=2.5"},
-                                   {"333 10203", "Flags=11 MaxTemperature=20.3"},
-                                   {"33301 10203", "Flags=11 MaxTemperature=20.3"},
-                                   {"444 10203", ""},
-                                   {"44401 10203", ""},
-                                   {"555 1/123", "Flags=12 WindAt10mt=123"},
-                                   {"55501 1/123", "Flags=12 WindAt10mt=123"},
-                                   {"2222 10123", "Temperature=12.3"},
-                                   {"222222 10123", "Temperature=12.3"},
-                                   {"111 10123", "Temperature=12.3"},
-                               });
+  ExpectGroups(
+      "///// ///// ",
+      {
+          {"10123 222 10305", "Flags=10 Temperature=12.3 WavePeriod=3 WaveHeight=2.5"},
+          {"22211 10305", "Flags=10 ShipDirection=1 ShipAvSpeed=1 WavePeriod=3 WaveHeight=2.5"},
+          {"333 10203", "Flags=11 MaxTemperature=20.3"},
+          {"33301 10203", "Flags=11 MaxTemperature=20.3"},
+          {"444 10203", ""},
+          {"44401 10203", ""},
+          {"555 1/123", "Flags=12 WindAt10mt=123"},
+          {"55501 1/123", "Flags=12 WindAt10mt=123"},
+          {"2222 10123", "Temperature=12.3"},
+          {"222222 10123", "Temperature=12.3"},
+          {"111 10123", "Temperature=12.3"},
+      });
 }
 
 }  // namespace

@@ -74,12 +74,10 @@ TEST(SynopSection2, Groups) {
                    {"ICE 21345",
                     "Flags=10 SeaIceConcentration=2 SeaIceStage=1 SeaIceBearingEdge=4 "
                     "IceOfLandOrigin=3 IceSituation=5"},
-                   {"ICE 2/3/4",
-                    "Flags=10 SeaIceConcentration=2 IceOfLandOrigin=3 IceSituation=4"},
+                   {"ICE 2/3/4", "Flags=10 SeaIceConcentration=2 IceOfLandOrigin=3 IceSituation=4"},
                    {"ICE /////", "Flags=10"},
                    {"ICE", "Flags=10"},
-                   {"ICE 2A3B4",
-                    "Flags=10 SeaIceConcentration=2 IceOfLandOrigin=3 IceSituation=4",
+                   {"ICE 2A3B4", "Flags=10 SeaIceConcentration=2 IceOfLandOrigin=3 IceSituation=4",
                     "2A3B4 2A3B4"},
                    {"ICE 10305 20404",
                     "Flags=10 WavePeriod=4 WaveHeight=2 SeaIceConcentration=1 SeaIceStage=0 "
@@ -91,17 +89,19 @@ TEST(SynopSection2, Groups) {
 }
 
 TEST(SynopSection2, Markers) {
-  ExpectGroups("///// ///// 222 ", {
-                                       {"10305 333 10203", "Flags=10,11 MaxTemperature=20.3 WavePeriod=3 WaveHeight=2.5"},
-                                       {"33312 10203", "Flags=10,11 MaxTemperature=20.3"},
-                                       {"444 10305", "Flags=10"},
-                                       {"44412 10305", "Flags=10"},
-                                       {"555 1/123", "Flags=10,12 WindAt10mt=123"},
-                                       {"55512 1/123", "Flags=10,12 WindAt10mt=123"},
-                                       // Out of order: nothing behind it is read.
-                                       {"222 10305", "Flags=10"},
-                                       {"22212", "Flags=10 WavePeriod=22 WaveHeight=6"},
-                                   });
+  ExpectGroups(
+      "///// ///// 222 ",
+      {
+          {"10305 333 10203", "Flags=10,11 MaxTemperature=20.3 WavePeriod=3 WaveHeight=2.5"},
+          {"33312 10203", "Flags=10,11 MaxTemperature=20.3"},
+          {"444 10305", "Flags=10"},
+          {"44412 10305", "Flags=10"},
+          {"555 1/123", "Flags=10,12 WindAt10mt=123"},
+          {"55512 1/123", "Flags=10,12 WindAt10mt=123"},
+          // Out of order: nothing behind it is read.
+          {"222 10305", "Flags=10"},
+          {"22212", "Flags=10 WavePeriod=22 WaveHeight=6"},
+      });
 }
 
 }  // namespace

@@ -146,15 +146,15 @@ TEST(SynopSection5, ContinuousWinds) {
 }
 
 TEST(SynopSections, InTheirOrder) {
-  ExpectGroups("///// ///// ",
-               {
-                   {"10123 22254 10305 333 10203 444 55555 555 1/123",
-                    "Flags=10,11,12 Temperature=12.3 MaxTemperature=20.3 WindAt10mt=123 "
-                    "ShipDirection=5 ShipAvSpeed=4 WavePeriod=3 WaveHeight=2.5"},
-                   {"22254 444 555 1/123",
-                    "Flags=10,12 WindAt10mt=123 ShipDirection=5 ShipAvSpeed=4"},
-                   {"333 10203 222 10305 444 555 1/123", "Flags=11 MaxTemperature=20.3"},
-               });
+  ExpectGroups(
+      "///// ///// ",
+      {
+          {"10123 22254 10305 333 10203 444 55555 555 1/123",
+           "Flags=10,11,12 Temperature=12.3 MaxTemperature=20.3 WindAt10mt=123 "
+           "ShipDirection=5 ShipAvSpeed=4 WavePeriod=3 WaveHeight=2.5"},
+          {"22254 444 555 1/123", "Flags=10,12 WindAt10mt=123 ShipDirection=5 ShipAvSpeed=4"},
+          {"333 10203 222 10305 444 555 1/123", "Flags=11 MaxTemperature=20.3"},
+      });
 }
 
 }  // namespace
