@@ -364,15 +364,16 @@ constexpr auto StationRawFields =
                ZG_FIELD(StationBlock, Type),        ZG_FIELD(StationBlock, Sender),
                ZG_FIELD(StationBlock, AddedInfo),   ZG_FIELD(StationBlock, StationKind)};
 
-constexpr auto StationFields =
-    std::tuple{ZG_FIELD(StationTexts, WMOIndex),     ZG_FIELD(StationTexts, State),
-               ZG_FIELD(StationTexts, Station),      ZG_FIELD(StationTexts, Country),
-               ZG_FIELD(StationTexts, IcaoName),     ZG_FIELD(StationTexts, LatPosition),
-               ZG_FIELD(StationTexts, LongPosition), ZG_FIELD(StationTexts, StationHT),
-               ZG_FIELD(StationTexts, SensorHT),     ZG_FIELD(StationTexts, Quadrant),
-               ZG_FIELD(StationTexts, MsgId),        ZG_FIELD(StationTexts, Type),
-               ZG_FIELD(StationTexts, Sender),       ZG_FIELD(StationTexts, AddedInfo),
-               ZG_FIELD(StationTexts, StationKind)};
+constexpr auto PlaceFields =
+    std::tuple{ZG_FIELD(StationPlace, WMOIndex),     ZG_FIELD(StationPlace, State),
+               ZG_FIELD(StationPlace, Station),      ZG_FIELD(StationPlace, Country),
+               ZG_FIELD(StationPlace, IcaoName),     ZG_FIELD(StationPlace, LatPosition),
+               ZG_FIELD(StationPlace, LongPosition), ZG_FIELD(StationPlace, StationHT),
+               ZG_FIELD(StationPlace, SensorHT),     ZG_FIELD(StationPlace, Quadrant)};
+
+constexpr auto StationFields = std::tuple{
+    ZG_FIELD(StationTexts, MsgId), ZG_FIELD(StationTexts, Type), ZG_FIELD(StationTexts, Sender),
+    ZG_FIELD(StationTexts, AddedInfo), ZG_FIELD(StationTexts, StationKind)};
 
 constexpr auto FrontsFields = std::tuple{
     ZG_FIELD(FrontsRow, Type),    ZG_FIELD(FrontsRow, RecNum),   ZG_FIELD(FrontsRow, Validity),
@@ -404,6 +405,7 @@ struct PlainValues {
   }
   void operator()(const StationTexts& station) const {
     json.BeginObject();
+    WriteFields(json, *station.Place, PlaceFields, *this);
     WriteFields(json, station, StationFields, *this);
     json.EndObject();
   }

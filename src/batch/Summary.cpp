@@ -47,9 +47,9 @@ std::string CountText(int count, std::string_view one, std::string_view many) {
 void DecodeSummary::Add(const StationTexts& station) {
   ++messages_;
   Count(byType_, station.Type);
-  if (stations_.find(station.Station) == stations_.end()) stations_.emplace(station.Station);
+  if (stations_.find(station.Station()) == stations_.end()) stations_.emplace(station.Station());
   // A state of the United States is no country.
-  Count(byCountry_, Trim(station.Country.substr(0, station.Country.find(" ["))));
+  Count(byCountry_, Trim(station.Country().substr(0, station.Country().find(" ["))));
 }
 
 void DecodeSummary::AddRun(std::int64_t bytes, std::int64_t milliseconds) noexcept {
@@ -64,7 +64,9 @@ std::string DecodeSummary::Text() const {
   for (const TypeLine& row : TypeLines) {
     const auto found = byType_.find(row.type);
     if (found == byType_.end()) continue;
-    text += Line("", FormatNumber(found->second, "#####0") + "  " + std::string(row.text));
+    const std::string count = PlainDecimal(found->second);
+    text += Line("", std::string(count.size() < 6 ? 6 - count.size() : 0, ' ') + count + "  " +
+                         std::string(row.text));
   }
   std::vector<std::pair<std::string_view, int>> countries(byCountry_.begin(), byCountry_.end());
   std::stable_sort(countries.begin(), countries.end(),

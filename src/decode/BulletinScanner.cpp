@@ -7,6 +7,10 @@
 namespace zg {
 namespace {
 
+// A heading and what stands ahead of the first report. More than this is a broken stream, and is
+// not to stand in front of every report that follows.
+constexpr std::size_t LongestHeading = std::size_t{64} * 1024;
+
 bool EndsWithEquals(std::string_view text) noexcept {
   return text.ends_with('=') || text.ends_with("= ");
 }
@@ -61,7 +65,8 @@ void BulletinScanner::Reset(bool singleMessage) {
   singleMessage_ = singleMessage;
   messageText_.clear();
   headerText_.clear();
-  headingLine_ = typeLine_ = 0;
+  headingLine_ = 0;
+  typeLine_ = NoTypeLine;
   messageType_ = MessageType::Unknown;
   endOfMessage_ = inBody_ = inHeader_ = headerDone_ = blankEnds_ = headerCut_ = false;
   lineCount_ = 0;
@@ -81,7 +86,7 @@ BulletinScanner::Result BulletinScanner::ScanLine(std::string_view line) {
   const bool separator = IsEnvelope(line) || (line.size() < 4 && line != "=");
   if (separator && TakeSeparator(line) == Step::Stop) return {};
 
-  const bool heading = !singleMessage_ && IsWmoHeading(line);
+  const bool heading = !singleMessage_ && line.size() <= LongestHeading && IsWmoHeading(line);
   if (heading && messageType_ != MessageType::FRONTS && (inHeader_ || headerDone_)) {
     // The stream broke inside a message.
     inHeader_ = headerDone_ = false;
@@ -148,6 +153,7 @@ BulletinScanner::Step BulletinScanner::TakeIdleLine(std::string_view line, bool 
 void BulletinScanner::StartHeading(std::string_view line) {
   headerText_.clear();
   headingLine_ = line.size() + 1;
+  typeLine_ = NoTypeLine;
   headerCut_ = false;
   EndHeadingStage();
   inHeader_ = true;
@@ -180,6 +186,7 @@ BulletinScanner::Step BulletinScanner::TakeHeadingLine(std::string_view line) {
 
 void BulletinScanner::TakeTypeLine(std::string_view line) {
   const TypeWords words = FindTypeWords(line);
+  if (headerText_.size() > LongestHeading) headerText_.resize(headingLine_);
   typeLine_ = headerText_.size() + words.begin;
   headerText_.append(line.substr(0, words.end)).append(" ");
   inBody_ = inHeader_ = headerDone_ = true;
@@ -207,7 +214,9 @@ void BulletinScanner::ClassifyLine(std::string_view line) {
 // A type line without a heading holds to the end of its envelope only.
 void BulletinScanner::ForgetTypeLine() {
   if (HasBulletinHeading() || headerText_.empty()) return;
+  EndHeadingStage();
   headerText_.clear();
+  typeLine_ = NoTypeLine;
   messageType_ = MessageType::Unknown;
 }
 
@@ -251,6 +260,7 @@ void BulletinScanner::AdoptTypeWord() {
   if (type != MessageType::Unknown) {
     messageType_ = type;
     const std::size_t end = FindTypeWords(messageText_).end;
+    if (typeLine_ == NoTypeLine) typeLine_ = headerText_.size();
     headerText_.resize(typeLine_);
     headerText_.append(messageText_, 0, end).append(" ");
     messageText_.erase(0, std::min(messageText_.find_first_not_of(' ', end), messageText_.size()));
@@ -276,7 +286,7 @@ bool BulletinScanner::JoinSynopHeading() {
 bool BulletinScanner::JoinReportHeading() {
   const std::size_t headerLength = headerText_.size();
   messageText_.insert(0, headerText_);
-  start_ = FindReportStart(messageText_, headerLength);
+  start_ = FindReportStart(messageText_, headerLength, messageType_ == MessageType::Unknown);
   if (!start_.Searched) return true;
   if (!start_.Found) {
     Print(messageText_);
@@ -289,6 +299,7 @@ bool BulletinScanner::JoinReportHeading() {
   if (messageType_ == MessageType::Unknown || start_.TypeWordFirst) messageType_ = start_.Type;
   if (headerLength > 0 && !headerCut_) {
     headerText_.assign(messageText_, 0, start_.Position);
+    if (headerText_.size() > LongestHeading) headerText_.resize(headingLine_);
     headerCut_ = true;
   }
   return true;

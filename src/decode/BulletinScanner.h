@@ -83,6 +83,8 @@ class BulletinScanner {
   void LogAtLine(std::string_view italian, std::string_view english);
   void Print(std::string_view text);
 
+  static constexpr std::size_t NoTypeLine = std::string::npos;
+
   ScannerClient& client_;
   LogList& log_;
   const TextUtility& textUtility_;
@@ -91,7 +93,7 @@ class BulletinScanner {
   std::string messageText_;      // the report gathered so far
   std::string headerText_;       // the heading gathered so far, each line with a blank behind it
   std::size_t headingLine_ = 0;  // length of its first line and blank; 0 without a heading
-  std::size_t typeLine_ = 0;     // where AAXX or BBXX stands in it
+  std::size_t typeLine_ = NoTypeLine;  // where AAXX or BBXX stands in it
   MessageType messageType_ = MessageType::Unknown;
   bool endOfMessage_ = false;  // a complete message waits to be handed on
   bool inBody_ = false;        // lines of SYNOP reports follow

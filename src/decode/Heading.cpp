@@ -74,7 +74,8 @@ MessageType MetarOrTaf(std::string_view text, Word word) noexcept {
 
 // Tests what follows a word that may be the station. True if a report starts there; `type` is then
 // what the report looks like.
-bool LooksLikeReport(std::string_view text, const Word& next, MessageType& type) noexcept {
+bool LooksLikeReport(std::string_view text, const Word& next, bool wantType,
+                     MessageType& type) noexcept {
   const std::string_view w = next.text;
   type = MessageType::TAF;
   if ((w.size() == 4 || w.size() == 6) && IsTimeGroup(w)) return true;
@@ -84,12 +85,12 @@ bool LooksLikeReport(std::string_view text, const Word& next, MessageType& type)
   }
   const bool time = (w.size() == 7 || w.size() == 5) && w.back() == 'Z' && next.followedByBlank;
   if (time) {
-    type = MetarOrTaf(text, next);
+    if (wantType) type = MetarOrTaf(text, next);
     return true;
   }
   if (w.starts_with("AMD")) return true;
   if (Mid(w, 6, 3) == "MPS" || Mid(w, 6, 2) == "KT") {
-    type = MetarOrTaf(text, next);
+    if (wantType) type = MetarOrTaf(text, next);
     return true;
   }
   if (w.starts_with("TAF")) return true;
@@ -166,7 +167,8 @@ bool IsTypeOrCorrectionWord(std::string_view word) noexcept {
   return word == "METAR" || word == "SPECI" || word == "TAF" || word == "AMD" || word == "COR";
 }
 
-ReportStart FindReportStart(std::string_view text, std::size_t headerLength) noexcept {
+ReportStart FindReportStart(std::string_view text, std::size_t headerLength,
+                            bool wantType) noexcept {
   const Word first = WordFrom(text, 0);
   if (headerLength == 0) {
     const MessageType named = ReportTypeOfWord(first.text);
@@ -181,7 +183,7 @@ ReportStart FindReportStart(std::string_view text, std::size_t headerLength) noe
   Word word = behindCentre ? WordFrom(text, BehindCentre) : first;
   if (!behindCentre && first.text.size() != 4) return result;
   for (; !word.text.empty(); word = Next(text, word)) {
-    if (MayBeStation(word) && LooksLikeReport(text, Next(text, word), result.Type)) {
+    if (MayBeStation(word) && LooksLikeReport(text, Next(text, word), wantType, result.Type)) {
       result.Found = true;
       result.Position = word.start;
       return result;

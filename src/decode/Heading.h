@@ -38,8 +38,10 @@ struct ReportStart {
 
 // Finds the station: a word of four characters followed by what follows a station (a time, a
 // period, a wind, AMD, TAF, METAR). `text` is the heading of `headerLength` characters and the
-// message behind it. The type in the result is given for texts whose type is not known yet.
-ReportStart FindReportStart(std::string_view text, std::size_t headerLength) noexcept;
+// message behind it. What the report looks like is found out only with `wantType`; else the type in
+// the result counts only for a text that begins with its type word.
+ReportStart FindReportStart(std::string_view text, std::size_t headerLength,
+                            bool wantType = true) noexcept;
 
 // METAR, SPECI or TAF where the word is that; else Unknown.
 MessageType ReportTypeOfWord(std::string_view word) noexcept;

@@ -13,6 +13,7 @@
 #include "decode/ValueTexts.h"
 #include "decode/aero/MetarRecord.h"
 #include "decode/synop/SynopRecord.h"
+#include "stations/StationDirectory.h"
 #include "text/TextArena.h"
 
 namespace zg {
@@ -21,10 +22,14 @@ namespace zg {
 // outlive the records: the same stations report hour by hour.
 class StationTextCache {
  public:
-  // Forgets all if the directory or the language is another one than before.
-  void UseFor(const void* directory, std::uint8_t language) {
-    if (directory == directory_ && language == language_) return;
-    directory_ = directory;
+  // Forgets all if the directory, what is loaded in it, or the language is not that of before.
+  void UseFor(const StationDirectory& directory, std::uint8_t language) {
+    if (&directory == directory_ && directory.Generation() == generation_ &&
+        language == language_) {
+      return;
+    }
+    directory_ = &directory;
+    generation_ = directory.Generation();
     language_ = language;
     known_.clear();
     arena_.Clear();
@@ -32,15 +37,11 @@ class StationTextCache {
 
   // The texts of a row, made by `make(arena)` the first time that it is met.
   template <typename Make>
-  const StationTexts& Get(std::size_t row, Make make) {
+  const StationPlace* Get(std::size_t row, Make make) {
     if (row >= known_.size()) known_.resize(std::max(row + 1, known_.size() * 2));
-    const StationTexts*& known = known_[row];
-    if (known == nullptr) {
-      auto* made = arena_.Make<StationTexts>(1);
-      *made = make(arena_);
-      known = made;
-    }
-    return *known;
+    const StationPlace*& known = known_[row];
+    if (known == nullptr) known = make(arena_);
+    return known;
   }
 
   std::size_t Capacity() const noexcept {
@@ -49,8 +50,9 @@ class StationTextCache {
 
  private:
   TextArena arena_;
-  std::vector<const StationTexts*> known_;
-  const void* directory_ = nullptr;
+  std::vector<const StationPlace*> known_;
+  const StationDirectory* directory_ = nullptr;
+  int generation_ = 0;
   std::uint8_t language_ = 0;
 };
 

@@ -54,12 +54,12 @@ MeteoDecode::Summary MeteoDecode::DecodeFile(const std::string& fileName) {
       context_.Log.Log(rewritten.Error());  // the bytes in memory are good all the same
     }
   }
-  return Run(fileName, std::move(file.Bytes), repaired);
+  return Run(fileName, file.Bytes, repaired);
 }
 
 MeteoDecode::Summary MeteoDecode::DecodeBytes(std::string_view name, std::string bytes) {
   const bool repaired = Repair(bytes);
-  return Run(name, std::move(bytes), repaired);
+  return Run(name, bytes, repaired);
 }
 
 // Repairs line ends where that is due; true if it was.
@@ -77,7 +77,8 @@ void MeteoDecode::StartRun(bool singleMessage) {
   summary_ = {};
 }
 
-MeteoDecode::Summary MeteoDecode::Run(std::string_view name, std::string bytes, bool repaired) {
+MeteoDecode::Summary MeteoDecode::Run(std::string_view name, std::string_view bytes,
+                                      bool repaired) {
   StartRun(false);
   summary_.Read = true;
   summary_.Bytes = static_cast<std::int64_t>(bytes.size());
@@ -117,13 +118,14 @@ void MeteoDecode::ReadLines(std::string_view bytes, bool repaired) {
   const std::int64_t start = clock_.TickCount();
   LineReader reader(bytes, repaired);
   std::string_view line;
-  for (int counter = 1; !stopRequested_ && reader.Next(line); ++counter) {
+  for (int counter = 1; reader.Next(line); ++counter) {
     upperLine_ = line;
     UpperCaseWindows1252(upperLine_);
     scanner_.ScanLine(upperLine_);
     progress_.Advance(static_cast<std::int64_t>(reader.Position()));
     if (counter % LinesBetweenYields == 0) progress_.Yield();
     while (break_) progress_.Yield();
+    if (stopRequested_) break;
   }
   const auto position = static_cast<std::int64_t>(reader.Position());
   LogSpeed(position, std::max<std::int64_t>(clock_.TickCount() - start, 1));
@@ -185,7 +187,7 @@ bool MeteoDecode::ClaimStore(Family family) {
     const auto size = static_cast<std::size_t>(std::max(settings_.MaxMessages, 0));
     const auto reset = [&](auto& store) {
       store.Reset(size);
-      store.Texts().Stations.UseFor(context_.Stations.Identity(), context_.Texts().Language());
+      store.Texts().Stations.UseFor(context_.Stations, context_.Texts().Language());
     };
     if (family == Family::Synop) {
       reset(context_.Stores.SynopStore);
@@ -210,6 +212,7 @@ void MeteoDecode::StoreFronts(const BulletinMessage& message) {
   std::vector<FrontsRow> rows;
   const bool complete = DecodeFronts(message, rows);
   summary_.FrontsDecoded = true;
+  database_.Query("begin");
   for (const FrontsRow& row : rows) {
     database_.Query(
         "insert into Fronts (Type, RecNum, Validity, MsgTime, Pressure, Lat, \"Long\") "
@@ -217,6 +220,7 @@ void MeteoDecode::StoreFronts(const BulletinMessage& message) {
         {std::int64_t{row.Type}, std::int64_t{row.RecNum}, row.Validity, row.MsgTime, row.Pressure,
          row.Lat, row.Long});
   }
+  database_.Query("commit");
   if (complete) {
     context_.Log.Log(
         context_.Texts().Choose("Database dei Fronti Aggiornato!", "Fronts Database Updated!"));

@@ -75,7 +75,7 @@ class MeteoDecode : private ScannerClient {
 
   bool Repair(std::string& bytes);
   void StartRun(bool singleMessage);
-  Summary Run(std::string_view name, std::string bytes, bool repaired);
+  Summary Run(std::string_view name, std::string_view bytes, bool repaired);
   bool ClaimStore(Family family);
   void CountStored();
   void StoreFronts(const BulletinMessage& message);

@@ -18,7 +18,7 @@ constexpr std::int32_t NoIndex = -1;
 constexpr std::int64_t MaxReserve = 100'000;  // rows; whatever the database says of its size
 constexpr std::string_view HeightMask = "0000";
 
-constexpr std::size_t ShortName = sizeof(std::uint64_t);
+constexpr std::size_t ShortName = 7;  // characters that fit a key together with their number
 
 // Spreads the bits of a key over a hash table (Fibonacci hashing).
 std::size_t HashKey(std::uint64_t key) noexcept {
@@ -31,7 +31,7 @@ std::uint64_t KeyOf(std::string_view name) noexcept {
   if (name.size() > ShortName) return std::hash<std::string_view>()(name);
   std::uint64_t key = 0;
   std::memcpy(&key, name.data(), name.size());
-  return key;
+  return key << 8U | name.size();
 }
 
 std::size_t HashName(std::string_view name) noexcept { return HashKey(KeyOf(name)); }
@@ -118,7 +118,9 @@ void LoadStationRecord(const StationRow* row, StationBlock& Block) {
 }
 
 bool StationDirectory::Load(DBUtility& dbUtility) {
+  const int generation = generation_ + 1;
   *this = StationDirectory();
+  generation_ = generation;
   const bool stations = LoadStations(dbUtility);
   const bool ships = LoadShipRanges(dbUtility);
   BuildSlots();
@@ -210,7 +212,7 @@ const StationRow* StationDirectory::FindByName(const Slots& slots,
   for (std::size_t at = HashKey(key) & mask; slots[at].row != 0; at = (at + 1) & mask) {
     if (slots[at].key != key) continue;
     const StationRow& row = rows_[slots[at].row - 1];
-    // A short key says the whole name, but for zeros behind it, which no name has.
+    // A short key says the whole name.
     if (name.size() <= ShortName || row.*field == name) return &row;
   }
   return nullptr;

@@ -45,8 +45,8 @@ class StationDirectory {
   // fails: then the directory holds what could be read.
   bool Load(DBUtility& dbUtility);
 
-  // Tells what was loaded from anything loaded before or elsewhere; null while nothing is.
-  const void* Identity() const noexcept { return rows_.data(); }
+  // Number of the load: what was made from the rows holds while it and the directory are the same.
+  int Generation() const noexcept { return generation_; }
 
   std::size_t Size() const noexcept { return rows_.size(); }
   const std::vector<StationRow>& Rows() const noexcept { return rows_; }
@@ -75,7 +75,7 @@ class StationDirectory {
 
  private:
   // Open addressing with the key beside the row, so that no row is looked at in vain: a number or a
-  // name of up to eight characters as it stands, a longer name by its hash. The size is a power
+  // name of up to seven characters as it stands, a longer name by its hash. The size is a power
   // of 2.
   struct Slot {
     std::uint64_t key = 0;
@@ -94,6 +94,7 @@ class StationDirectory {
   const StationRow* FindByName(const Slots& slots, std::string_view StationRow::*field,
                                std::string_view name) const noexcept;
 
+  int generation_ = 0;
   TextArena texts_;
   std::vector<StationRow> rows_;
   std::vector<ShipRange> shipRanges_;  // by StartIndex

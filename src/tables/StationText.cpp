@@ -10,9 +10,10 @@ namespace zg {
 namespace {
 
 // The texts that depend on the directory row alone (and, without a row, on the message).
-StationTexts MakeTexts(const StationBlock& block, const TextUtility& textUtility,
-                       TextArena& arena) {
-  StationTexts result;
+const StationPlace* MakePlace(const StationBlock& block, const TextUtility& textUtility,
+                              TextArena& arena) {
+  auto* place = arena.Make<StationPlace>(1);
+  StationPlace& result = *place;
   result.WMOIndex = block.WMOIndex;
   result.State = arena.Copy(block.State);
   result.Station = arena.Copy(block.Station);
@@ -31,7 +32,7 @@ StationTexts MakeTexts(const StationBlock& block, const TextUtility& textUtility
   if (block.Quadrant) {
     result.Quadrant = textUtility.Quadrant(static_cast<std::int16_t>(*block.Quadrant));
   }
-  return result;
+  return place;
 }
 
 // The type as a constant text; a word that stood in the place of one is copied.
@@ -54,12 +55,12 @@ std::int32_t ClassifyStation(std::string_view Station, std::string_view Type) no
 
 StationTexts FillStationTexts(const StationBlock& block, int stationRow,
                               const TextUtility& textUtility, StoreTexts& texts) {
-  StationTexts result =
-      stationRow < 0
-          ? MakeTexts(block, textUtility, texts.Arena)
-          : texts.Stations.Get(static_cast<std::size_t>(stationRow), [&](TextArena& arena) {
-              return MakeTexts(block, textUtility, arena);
-            });
+  StationTexts result;
+  result.Place = stationRow < 0 ? MakePlace(block, textUtility, texts.Arena)
+                                : texts.Stations.Get(static_cast<std::size_t>(stationRow),
+                                                     [&](TextArena& arena) {
+                                                       return MakePlace(block, textUtility, arena);
+                                                     });
   result.MsgId = texts.Repeated(texts.MsgId, block.MsgId);
   result.Sender = texts.Repeated(texts.Sender, block.Sender);
   result.AddedInfo = texts.Repeated(texts.AddedInfo, block.AddedInfo);

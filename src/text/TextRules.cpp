@@ -84,18 +84,22 @@ Decimal SplitDecimal(std::string_view text) {
   return result;
 }
 
+// Adds one to the last digit of a row of digits. True if the row was all nines and is all zeros
+// now.
+bool AddOne(std::string& digits) {
+  for (std::size_t at = digits.size(); at-- > 0;) {
+    if (digits[at] != '9') {
+      ++digits[at];
+      return false;
+    }
+    digits[at] = '0';
+  }
+  return true;
+}
+
 // Adds one to the last digit of whole and fraction taken together.
 void Increment(Decimal& number) {
-  for (std::string* part : {&number.fraction, &number.whole}) {
-    for (auto digit = part->rbegin(); digit != part->rend(); ++digit) {
-      if (*digit != '9') {
-        ++*digit;
-        return;
-      }
-      *digit = '0';
-    }
-  }
-  number.whole.insert(number.whole.begin(), '1');
+  if (AddOne(number.fraction) && AddOne(number.whole)) number.whole.insert(0, 1, '1');
 }
 
 void RoundTo(Decimal& number, std::size_t decimals) {

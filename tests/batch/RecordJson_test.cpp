@@ -455,8 +455,10 @@ TEST(RecordJson, RawSynop) {
 TEST(RecordJson, Synop) {
   SynopData record;
   record.Msg = "AAXX 12001=";
-  record.Station.WMOIndex = 16242;
-  record.Station.Station = "Forl\xC3\xAC";
+  StationPlace place;
+  place.WMOIndex = 16242;
+  place.Station = "Forl\xC3\xAC";
+  record.Station.Place = &place;
   record.Station.StationKind = 1;
   record.FilterFlags = 658;
   record.StationType = "Manned";

@@ -2,14 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
+
 namespace zg {
 namespace {
 
+// A station whose place lives as long as the test program.
 StationTexts Station(std::string_view type, std::string_view name, std::string_view country) {
+  static std::deque<StationPlace> places;
+  StationPlace& place = places.emplace_back();
+  place.Station = name;
+  place.Country = country;
   StationTexts station;
+  station.Place = &place;
   station.Type = type;
-  station.Station = name;
-  station.Country = country;
   return station;
 }
 
@@ -39,11 +45,11 @@ TEST(Summary, Counts) {
   const std::string text = summary.Text();
   EXPECT_EQ(text,
             "Messages        6 decoded from 2 files\n"
-            "                2  METAR   aerodrome reports\n"
-            "                1  SPECI   special aerodrome reports\n"
-            "                1  TAF     aerodrome forecasts\n"
-            "                1  AAXX    SYNOP reports from land stations\n"
-            "                1  BBXX    SYNOP reports from ships and buoys\n"
+            "                     2  METAR   aerodrome reports\n"
+            "                     1  SPECI   special aerodrome reports\n"
+            "                     1  TAF     aerodrome forecasts\n"
+            "                     1  AAXX    SYNOP reports from land stations\n"
+            "                     1  BBXX    SYNOP reports from ships and buoys\n"
             "Stations        4\n"
             "Countries       3: United States, Italy, Germany\n"
             "Not decoded     1 line, kept in WrongFiles\n"

@@ -44,8 +44,8 @@ List Messages(const DecodeFixture& fixture) {
 
 List Stations(const DecodeFixture& fixture) {
   List names;
-  for (const SynopData& record : fixture.Synops()) names.emplace_back(record.Station.Station);
-  for (const MetarData& record : fixture.Metars()) names.emplace_back(record.Station.Station);
+  for (const SynopData& record : fixture.Synops()) names.emplace_back(record.Station.Station());
+  for (const MetarData& record : fixture.Metars()) names.emplace_back(record.Station.Station());
   return names;
 }
 
@@ -57,7 +57,7 @@ const std::string RomeSynop = "16242 32980 70510 10150 20100 40150=";
 const std::string LondonSynop = "03772 32980 70510 10150 20100 40150=";
 const std::string Ship = "BBXX DABC 15124 99545 10075 41398 70510 10150=";
 
-// ---------------------------------------------------------------------------- files and their log
+// --- files and their log ---
 
 TEST(MeteoDecode, LogOfARun) {
   struct Row {
@@ -267,7 +267,7 @@ TEST(MeteoDecode, LowerCaseDecodesLikeUpperCase) {
             "C");
 }
 
-// ------------------------------------------------------------------------------- progress and stop
+// --- progress and stop ---
 
 TEST(MeteoDecode, ProgressAndYields) {
   DecodeFixture fixture;
@@ -339,7 +339,7 @@ TEST(MeteoDecode, BreakIdlesUntilItIsTakenBack) {
   EXPECT_FALSE(fixture.Decoder().Break());
 }
 
-// ------------------------------------------------------------------------------------- store limit
+// --- store limit ---
 
 TEST(MeteoDecode, MaxMessages) {
   struct Row {
@@ -398,7 +398,7 @@ TEST(MeteoDecode, LargestMaxMessagesAsItIsNeedsNoWord) {
   EXPECT_EQ(fixture.Log.Lines, List{});
 }
 
-// ------------------------------------------------------------------------------------ store family
+// --- store family ---
 
 TEST(MeteoDecode, StoreFamily) {
   struct Row {
@@ -462,7 +462,7 @@ TEST(MeteoDecode, ARunReplacesItsStoreOnly) {
   fixture.Decode(File({Heading, London}));
   EXPECT_EQ(fixture.Synops().size(), 2u);
   ASSERT_EQ(fixture.Metars().size(), 1u);
-  EXPECT_EQ(fixture.Metars()[0].Station.Station, "London Heathrow");
+  EXPECT_EQ(fixture.Metars()[0].Station.Station(), "London Heathrow");
   fixture.Decode(File({"WORDS OF NOTE=", "WSIT31 LIIB 151200", "LIRR 151200 SIGMET="}));
   EXPECT_EQ(fixture.Synops().size(), 2u);
   EXPECT_EQ(fixture.Metars().size(), 1u);
@@ -478,8 +478,38 @@ TEST(MeteoDecode, ResetErasesTheStores) {
   EXPECT_EQ(fixture.Stores.MetarStore.Count(), 0u);
 }
 
-// ------------------------------------------------------------------------------------------
-// filters
+// What a store keeps of stations is that of the present run.
+TEST(MeteoDecode, StationTextsFollowLanguageAndDirectory) {
+  struct Row {
+    const char* name;
+    std::string bytes;
+  };
+  const Row rows[] = {
+      {"METAR", File({Heading, Rome})},
+      {"SYNOP", File({LandHeading, "AAXX 15121", RomeSynop})},
+  };
+  for (const Row& row : rows) {
+    DecodeFixture fixture;
+    const auto station = [&fixture] {
+      return fixture.Metars().empty() ? fixture.Synops()[0].Station : fixture.Metars()[0].Station;
+    };
+    fixture.Decode(row.bytes);
+    EXPECT_EQ(station().Quadrant(), "North-Est") << row.name;
+    fixture.Texts.SetLanguage(0);
+    fixture.Decode(row.bytes);
+    EXPECT_EQ(station().Quadrant(), "Nord-Est") << row.name;
+    EXPECT_EQ(station().Station(), "Roma Fiumicino") << row.name;
+    EXPECT_TRUE(
+        fixture.Database.Query("update MeteoStations set Station = 'Fiumicino', Country = 'Lazio' "
+                               "where WMOIndex = 16242"));
+    EXPECT_TRUE(fixture.Stations.Load(fixture.Database));
+    fixture.Decode(row.bytes);
+    EXPECT_EQ(station().Station(), "Fiumicino") << row.name;
+    EXPECT_EQ(station().Country(), "Lazio") << row.name;
+  }
+}
+
+// --- filters ---
 
 TEST(MeteoDecode, Filters) {
   struct Row {
@@ -569,11 +599,11 @@ TEST(MeteoDecode, CountryOfShips) {
     const std::string report = std::string("BBXX ") + row.sign + " 15124 99545 10075 41398 70510=";
     fixture.Decode(File({report}));
     ASSERT_EQ(fixture.Synops().size(), 1u) << row.sign;
-    EXPECT_EQ(fixture.Synops()[0].Station.Country, row.country) << row.sign;
+    EXPECT_EQ(fixture.Synops()[0].Station.Country(), row.country) << row.sign;
   }
 }
 
-// --------------------------------------------------------------------------- what a window is told
+// --- what a window is told ---
 
 TEST(MeteoDecode, AcceptedMessages) {
   DecodeFixture fixture;
@@ -609,7 +639,7 @@ TEST(MeteoDecode, AcceptedShip) {
   EXPECT_EQ(ship.Time, "12:00");
 }
 
-// --------------------------------------------------------------------------------- wrong-line file
+// --- wrong-line file ---
 
 TEST(MeteoDecode, WrongLineFile) {
   DecodeFixture fixture;
@@ -664,7 +694,7 @@ TEST(MeteoDecode, WrongLineFileIsReplacedAndStaysWhenEmpty) {
   EXPECT_EQ(fixture.WrongFile(), "");
 }
 
-// ------------------------------------------------------------------------------------- carry-overs
+// --- carry-overs ---
 
 TEST(MeteoDecode, TimesOutliveAReport) {
   DecodeFixture fixture;
@@ -704,7 +734,7 @@ TEST(MeteoDecode, TheScannerBeginsAnewWithEachFile) {
   EXPECT_EQ(Messages(fixture), List{});
 }
 
-// ---------------------------------------------------------------------------------- typed messages
+// --- typed messages ---
 
 TEST(MeteoDecode, TypedMessages) {
   struct Row {
@@ -759,7 +789,7 @@ TEST(MeteoDecode, TypedMessageReplacesTheStoreOfItsFamily) {
   EXPECT_TRUE(fixture.DecodeTyped("METAR YSSY 151250Z 27010KT ="));
   EXPECT_EQ(fixture.Synops().size(), 2u);
   ASSERT_EQ(fixture.Metars().size(), 1u);
-  EXPECT_EQ(fixture.Metars()[0].Station.Station, "Sydney Airport");
+  EXPECT_EQ(fixture.Metars()[0].Station.Station(), "Sydney Airport");
   EXPECT_FALSE(fixture.DecodeTyped("HELLO WORLD ="));
   EXPECT_EQ(fixture.Metars().size(), 1u);
   EXPECT_TRUE(fixture.DecodeTyped("AAXX 15121 16242 32980 70510 10150 ="));
@@ -803,8 +833,7 @@ TEST(MeteoDecode, TypedTextAboveAscii) {
   EXPECT_TRUE(fixture.Metars()[0].RawText.ends_with("CITT\xC3\x80 ="));
 }
 
-// -------------------------------------------------------------------------------------------
-// fronts
+// --- fronts ---
 
 List Fronts(DecodeFixture& fixture) {
   List rows;
@@ -879,8 +908,7 @@ TEST(MeteoDecode, FrontsWithoutADatabase) {
   EXPECT_EQ(summary.DecodedCount, 1);
 }
 
-// ------------------------------------------------------------------------------------ hostile
-// input
+// --- hostile input ---
 
 TEST(MeteoDecode, TruncatedMessages) {
   const std::string bytes = File({Heading, Rome, London});

@@ -501,22 +501,22 @@ TEST(MetarReportText, Head) {
   const MetarData& record = stored.data;
   EXPECT_EQ(record.RawText, "METAR KDEN 151250Z=");
   EXPECT_EQ(record.FilterFlags, 33);
-  EXPECT_EQ(record.Station.Country, "United States [CO]");
-  EXPECT_EQ(record.Station.State, "CO");
-  EXPECT_EQ(record.Station.LatPosition, "39.50N");
-  EXPECT_EQ(record.Station.LongPosition, "104.40W");
-  EXPECT_EQ(record.Station.Quadrant, "North-West");
-  EXPECT_EQ(record.Station.StationHT, "1656");
-  EXPECT_EQ(record.Station.SensorHT, "1657");
+  EXPECT_EQ(record.Station.Country(), "United States [CO]");
+  EXPECT_EQ(record.Station.State(), "CO");
+  EXPECT_EQ(record.Station.LatPosition(), "39.50N");
+  EXPECT_EQ(record.Station.LongPosition(), "104.40W");
+  EXPECT_EQ(record.Station.Quadrant(), "North-West");
+  EXPECT_EQ(record.Station.StationHT(), "1656");
+  EXPECT_EQ(record.Station.SensorHT(), "1657");
   EXPECT_EQ(record.Station.AddedInfo, "RRA");
   EXPECT_EQ(record.Station.StationKind, 1);
-  EXPECT_EQ(Stored(raw, 0, UnitKind::Level, NoUnit).data.Station.Quadrant, "Nord-Ovest");
+  EXPECT_EQ(Stored(raw, 0, UnitKind::Level, NoUnit).data.Station.Quadrant(), "Nord-Ovest");
   // A state without the country, and the country without a state.
   raw.Station.Country = "Italy";
-  EXPECT_EQ(Stored(raw).data.Station.Country, "Italy");
+  EXPECT_EQ(Stored(raw).data.Station.Country(), "Italy");
   raw.Station.Country = "United States";
   raw.Station.State = "";
-  EXPECT_EQ(Stored(raw).data.Station.Country, "United States");
+  EXPECT_EQ(Stored(raw).data.Station.Country(), "United States");
 }
 
 TEST(MetarReportText, Booleans) {
@@ -581,9 +581,9 @@ TEST(MetarReportText, MissingValuesHaveNoText) {
                                 d.LowCloudType,
                                 d.MiddleCloudType,
                                 d.HighCloudType,
-                                d.Station.LatPosition,
-                                d.Station.LongPosition,
-                                d.Station.Quadrant}) {
+                                d.Station.LatPosition(),
+                                d.Station.LongPosition(),
+                                d.Station.Quadrant()}) {
     EXPECT_EQ(text, "");
   }
   ASSERT_EQ(d.SectionCount(), 1);

@@ -47,16 +47,16 @@ StationBlock Rome() {
 TEST(StationText, AllFields) {
   StoreTexts store;
   const StationTexts texts = FillStationTexts(Rome(), 0, TextUtility(), store);
-  EXPECT_EQ(texts.WMOIndex, 16242);
-  EXPECT_EQ(texts.State, "");
-  EXPECT_EQ(texts.Station, "Roma Fiumicino");
-  EXPECT_EQ(texts.Country, "Italy");
-  EXPECT_EQ(texts.IcaoName, "LIRF");
-  EXPECT_EQ(texts.LatPosition, "41.48N");
-  EXPECT_EQ(texts.LongPosition, "012.14E");
-  EXPECT_EQ(texts.StationHT, "0002");
-  EXPECT_EQ(texts.SensorHT, "0003");
-  EXPECT_EQ(texts.Quadrant, "North-Est");
+  EXPECT_EQ(texts.WMOIndex(), 16242);
+  EXPECT_EQ(texts.State(), "");
+  EXPECT_EQ(texts.Station(), "Roma Fiumicino");
+  EXPECT_EQ(texts.Country(), "Italy");
+  EXPECT_EQ(texts.IcaoName(), "LIRF");
+  EXPECT_EQ(texts.LatPosition(), "41.48N");
+  EXPECT_EQ(texts.LongPosition(), "012.14E");
+  EXPECT_EQ(texts.StationHT(), "0002");
+  EXPECT_EQ(texts.SensorHT(), "0003");
+  EXPECT_EQ(texts.Quadrant(), "North-Est");
   EXPECT_EQ(texts.MsgId, "SAIT31");
   EXPECT_EQ(texts.Type, "METAR");
   EXPECT_EQ(texts.Sender, "LIIB");
@@ -70,11 +70,12 @@ TEST(StationText, NothingKnown) {
   block.Station = "XXXX";
   block.Type = "METAR";
   const StationTexts texts = FillStationTexts(block, -1, TextUtility(), store);
-  EXPECT_EQ(texts.WMOIndex, -1);
-  EXPECT_EQ(texts.Station, "XXXX");
-  for (const std::string_view text : {texts.State, texts.Country, texts.IcaoName, texts.LatPosition,
-                                      texts.LongPosition, texts.StationHT, texts.SensorHT,
-                                      texts.Quadrant, texts.MsgId, texts.Sender, texts.AddedInfo}) {
+  EXPECT_EQ(texts.WMOIndex(), -1);
+  EXPECT_EQ(texts.Station(), "XXXX");
+  for (const std::string_view text :
+       {texts.State(), texts.Country(), texts.IcaoName(), texts.LatPosition(), texts.LongPosition(),
+        texts.StationHT(), texts.SensorHT(), texts.Quadrant(), texts.MsgId, texts.Sender,
+        texts.AddedInfo}) {
     EXPECT_EQ(text, "");
   }
 }
@@ -98,8 +99,8 @@ TEST(StationText, Country) {
     block.Country = row.country;
     block.State = row.state;
     const StationTexts texts = FillStationTexts(block, -1, TextUtility(), store);
-    EXPECT_EQ(texts.Country, row.text);
-    EXPECT_EQ(texts.State, row.state);
+    EXPECT_EQ(texts.Country(), row.text);
+    EXPECT_EQ(texts.State(), row.state);
   }
 }
 
@@ -135,9 +136,9 @@ TEST(StationText, PositionAndQuadrant) {
       textUtility.SetLanguage(italian ? 0 : 1);
       StoreTexts store;
       const StationTexts texts = FillStationTexts(block, -1, textUtility, store);
-      EXPECT_EQ(texts.LatPosition, row.latitudeText) << row.name;
-      EXPECT_EQ(texts.LongPosition, row.longitudeText) << row.name;
-      EXPECT_EQ(texts.Quadrant, italian ? row.italian : row.english) << row.name;
+      EXPECT_EQ(texts.LatPosition(), row.latitudeText) << row.name;
+      EXPECT_EQ(texts.LongPosition(), row.longitudeText) << row.name;
+      EXPECT_EQ(texts.Quadrant(), italian ? row.italian : row.english) << row.name;
     }
   }
 }
@@ -171,14 +172,14 @@ TEST(StationText, RowsAreShared) {
   again.Type = "SPECI";
   again.MsgId = "SPIT31";
   const StationTexts second = FillStationTexts(again, 7, textUtility, store);
-  EXPECT_EQ(first.Station.data(), second.Station.data());
+  EXPECT_EQ(first.Station().data(), second.Station().data());
   EXPECT_EQ(second.Type, "SPECI");
   EXPECT_EQ(second.MsgId, "SPIT31");
   EXPECT_EQ(first.Type, "METAR");
   StationBlock other = Rome();
   other.Station = "Arezzo";
-  EXPECT_EQ(FillStationTexts(other, 3, textUtility, store).Station, "Arezzo");
-  EXPECT_EQ(FillStationTexts(Rome(), 7, textUtility, store).Station, "Roma Fiumicino");
+  EXPECT_EQ(FillStationTexts(other, 3, textUtility, store).Station(), "Arezzo");
+  EXPECT_EQ(FillStationTexts(Rome(), 7, textUtility, store).Station(), "Roma Fiumicino");
 }
 
 TEST(StationText, TextsOutliveTheBlock) {
@@ -189,17 +190,38 @@ TEST(StationText, TextsOutliveTheBlock) {
   block.Type = "METAR";
   const StationTexts texts = FillStationTexts(block, -1, TextUtility(), store);
   name.assign(name.size(), 'x');
-  EXPECT_EQ(texts.Station, "Roma Fiumicino");
+  EXPECT_EQ(texts.Station(), "Roma Fiumicino");
 }
 
-// A store that is reset is filled with the texts of the language then in force.
-TEST(StationText, ClearedStoreTakesTheNewLanguage) {
-  StoreTexts store;
-  TextUtility textUtility;
-  EXPECT_EQ(FillStationTexts(Rome(), 0, textUtility, store).Quadrant, "North-Est");
-  store.Clear();
-  textUtility.SetLanguage(0);
-  EXPECT_EQ(FillStationTexts(Rome(), 0, textUtility, store).Quadrant, "Nord-Est");
+// The texts of stations outlive the records, but neither the language nor the directory.
+TEST(StationText, TextsOfStationsAreForgotten) {
+  struct Row {
+    const char* name;
+    bool otherDirectory;
+    bool otherLanguage;
+    bool kept;
+  };
+  const Row rows[] = {
+      {"the same", false, false, true},
+      {"language", false, true, false},
+      {"directory", true, false, false},
+  };
+  for (const Row& row : rows) {
+    const StationDirectory directories[2];
+    StoreTexts store;
+    TextUtility textUtility;
+    store.Stations.UseFor(directories[0], textUtility.Language());
+    FillStationTexts(Rome(), 0, textUtility, store);
+    store.Clear();
+    textUtility.SetLanguage(row.otherLanguage ? 0 : 1);
+    store.Stations.UseFor(directories[row.otherDirectory ? 1 : 0], textUtility.Language());
+    StationBlock renamed = Rome();
+    renamed.Station = "Ciampino";
+    const StationTexts texts = FillStationTexts(renamed, 0, textUtility, store);
+    EXPECT_EQ(texts.Station(), row.kept ? "Roma Fiumicino" : "Ciampino") << row.name;
+    EXPECT_EQ(texts.Quadrant(), row.otherLanguage ? "Nord-Est" : "North-Est") << row.name;
+    EXPECT_EQ(texts.MsgId, "SAIT31") << row.name;
+  }
 }
 
 }  // namespace

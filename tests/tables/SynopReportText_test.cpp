@@ -441,11 +441,11 @@ TEST(SynopReportText, Head) {
   const Stored stored(raw);
   EXPECT_EQ(stored.data.Msg, "AAXX 12001 16242=");
   EXPECT_EQ(stored.data.FilterFlags, 16);
-  EXPECT_EQ(stored.data.Station.WMOIndex, 72565);
-  EXPECT_EQ(stored.data.Station.Country, "United States [CO]");
-  EXPECT_EQ(stored.data.Station.LatPosition, "39.50N");
-  EXPECT_EQ(stored.data.Station.LongPosition, "104.40W");
-  EXPECT_EQ(stored.data.Station.Quadrant, "North-West");
+  EXPECT_EQ(stored.data.Station.WMOIndex(), 72565);
+  EXPECT_EQ(stored.data.Station.Country(), "United States [CO]");
+  EXPECT_EQ(stored.data.Station.LatPosition(), "39.50N");
+  EXPECT_EQ(stored.data.Station.LongPosition(), "104.40W");
+  EXPECT_EQ(stored.data.Station.Quadrant(), "North-West");
   EXPECT_EQ(stored.data.Station.AddedInfo, "RRA");
   raw.Station.AddedInfo = "Unk";
   EXPECT_EQ(Stored(raw).data.Station.AddedInfo, "");

@@ -105,16 +105,32 @@ enum : std::uint8_t {
 inline constexpr std::size_t Combinations = 64;
 }  // namespace WordFeature
 
+// By the last letters, compared one by one: this is done for every word.
+constexpr std::uint8_t FeaturesOfEnding(std::string_view word) noexcept {
+  if (word.size() < 2) return word.ends_with('Z') ? WordFeature::EndsInZ : WordFeature::None;
+  const char before = word[word.size() - 2];
+  switch (word.back()) {
+    case 'T':
+      return before == 'K' ? WordFeature::WindUnit : WordFeature::None;
+    case 'H':
+    case 'S':
+      return EndsInWindUnit(word) ? WordFeature::WindUnit : WordFeature::None;
+    case 'M':
+      if (before == 'K') return WordFeature::Kilometres;
+      return before == 'S' ? WordFeature::Miles : WordFeature::None;
+    case 'Z':
+      return WordFeature::EndsInZ;
+    default:
+      return WordFeature::None;
+  }
+}
+
 constexpr std::uint8_t FeaturesOf(std::string_view word) noexcept {
-  unsigned features = WordFeature::None;
+  unsigned features = FeaturesOfEnding(word);
   for (char c : word) {
     if (c == '/') features |= WordFeature::Solidus;
     if (c == 'B') features |= WordFeature::LetterB;
   }
-  if (EndsInWindUnit(word)) features |= WordFeature::WindUnit;
-  if (word.ends_with("KM")) features |= WordFeature::Kilometres;
-  if (word.ends_with("SM")) features |= WordFeature::Miles;
-  if (word.ends_with('Z')) features |= WordFeature::EndsInZ;
   return static_cast<std::uint8_t>(features);
 }
 

@@ -105,7 +105,7 @@ TEST(MetarDecoder, Heading) {
     EXPECT_EQ(record.Station.Type, MessageTypeName(row.type));
     EXPECT_EQ(record.Station.AddedInfo, row.addedInfo);
     EXPECT_EQ(record.BulletinTime, row.bulletinTime);
-    EXPECT_EQ(record.Station.Station, "Roma Fiumicino");
+    EXPECT_EQ(record.Station.Station(), "Roma Fiumicino");
     EXPECT_EQ(bench.Flags, row.flags);
   }
 }
@@ -126,7 +126,7 @@ TEST(MetarDecoder, TypeWordsWithoutHeading) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.text);
     ASSERT_TRUE(bench.Decode(MessageType::METAR, row.text, row.headerEnd, false).Stored);
-    EXPECT_EQ(bench.Last().Station.Station, "Roma Fiumicino");
+    EXPECT_EQ(bench.Last().Station.Station(), "Roma Fiumicino");
     EXPECT_EQ(bench.Last().Station.MsgId, "");
     EXPECT_EQ(bench.Last().Station.Sender, "");
     EXPECT_EQ(bench.Last().BulletinTime, "");
@@ -239,16 +239,16 @@ TEST(MetarDecoder, Station) {
   MetarBench bench;
   ASSERT_TRUE(bench.DecodeTypedReport("KDEN 151250Z").Stored);
   const StationTexts& denver = bench.Last().Station;
-  EXPECT_EQ(denver.WMOIndex, 72565);
-  EXPECT_EQ(denver.Station, "Denver");
-  EXPECT_EQ(denver.Country, "United States [CO]");
-  EXPECT_EQ(denver.State, "CO");
-  EXPECT_EQ(denver.IcaoName, "KDEN");
-  EXPECT_EQ(denver.LatPosition, "39.50N");
-  EXPECT_EQ(denver.LongPosition, "104.40W");
-  EXPECT_EQ(denver.StationHT, "1656");
-  EXPECT_EQ(denver.SensorHT, "");
-  EXPECT_EQ(denver.Quadrant, "North-West");
+  EXPECT_EQ(denver.WMOIndex(), 72565);
+  EXPECT_EQ(denver.Station(), "Denver");
+  EXPECT_EQ(denver.Country(), "United States [CO]");
+  EXPECT_EQ(denver.State(), "CO");
+  EXPECT_EQ(denver.IcaoName(), "KDEN");
+  EXPECT_EQ(denver.LatPosition(), "39.50N");
+  EXPECT_EQ(denver.LongPosition(), "104.40W");
+  EXPECT_EQ(denver.StationHT(), "1656");
+  EXPECT_EQ(denver.SensorHT(), "");
+  EXPECT_EQ(denver.Quadrant(), "North-West");
   EXPECT_EQ(denver.StationKind, 1);
 }
 
@@ -261,11 +261,11 @@ TEST(MetarDecoder, UnknownStation) {
   EXPECT_TRUE(bench.Log.Lines.empty());
   // Typed it is kept with its indicator.
   EXPECT_TRUE(bench.DecodeTypedReport("ZZZZ 151250Z 27010KT").Stored);
-  EXPECT_EQ(bench.Last().Station.Station, "ZZZZ");
-  EXPECT_EQ(bench.Last().Station.Country, "");
-  EXPECT_EQ(bench.Last().Station.Quadrant, "");
-  EXPECT_EQ(bench.Last().Station.LatPosition, "");
-  EXPECT_EQ(bench.Last().Station.WMOIndex, -1);
+  EXPECT_EQ(bench.Last().Station.Station(), "ZZZZ");
+  EXPECT_EQ(bench.Last().Station.Country(), "");
+  EXPECT_EQ(bench.Last().Station.Quadrant(), "");
+  EXPECT_EQ(bench.Last().Station.LatPosition(), "");
+  EXPECT_EQ(bench.Last().Station.WMOIndex(), -1);
   EXPECT_EQ(bench.Flags, "5,11");
 }
 

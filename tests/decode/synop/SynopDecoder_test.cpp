@@ -70,15 +70,15 @@ TEST(SynopDecoder, LandHeading) {
     EXPECT_EQ(record.Station.AddedInfo, row.addedInfo);
     EXPECT_EQ(record.Station.Type, "AAXX");
     EXPECT_EQ(record.IssueTime, "15/12:00Z");
-    EXPECT_EQ(record.Station.WMOIndex, 16242);
-    EXPECT_EQ(record.Station.Station, "Roma Fiumicino");
-    EXPECT_EQ(record.Station.Country, "Italy");
-    EXPECT_EQ(record.Station.IcaoName, "LIRF");
-    EXPECT_EQ(record.Station.LatPosition, "41.48N");
-    EXPECT_EQ(record.Station.LongPosition, "012.14E");
-    EXPECT_EQ(record.Station.StationHT, "0002");
-    EXPECT_EQ(record.Station.SensorHT, "0003");
-    EXPECT_EQ(record.Station.Quadrant, "North-Est");
+    EXPECT_EQ(record.Station.WMOIndex(), 16242);
+    EXPECT_EQ(record.Station.Station(), "Roma Fiumicino");
+    EXPECT_EQ(record.Station.Country(), "Italy");
+    EXPECT_EQ(record.Station.IcaoName(), "LIRF");
+    EXPECT_EQ(record.Station.LatPosition(), "41.48N");
+    EXPECT_EQ(record.Station.LongPosition(), "012.14E");
+    EXPECT_EQ(record.Station.StationHT(), "0002");
+    EXPECT_EQ(record.Station.SensorHT(), "0003");
+    EXPECT_EQ(record.Station.Quadrant(), "North-Est");
     EXPECT_EQ(record.Station.StationKind, 1);
     EXPECT_EQ(bench.Flags, "1,4,7,9");
     EXPECT_EQ(bench.WindUnitInd, 1);
@@ -128,13 +128,13 @@ TEST(SynopDecoder, SeaHeading) {
     SCOPED_TRACE(row.name);
     ASSERT_TRUE(bench.Decode(BBXX, row.text, false, true).Stored);
     const StationTexts& station = bench.Last().Station;
-    EXPECT_EQ(station.Station, row.station);
-    EXPECT_EQ(station.Country, row.country);
+    EXPECT_EQ(station.Station(), row.station);
+    EXPECT_EQ(station.Country(), row.country);
     EXPECT_EQ(station.StationKind, row.kind);
-    EXPECT_EQ(station.LatPosition, row.latitude);
-    EXPECT_EQ(station.LongPosition, row.longitude);
-    EXPECT_EQ(station.Quadrant, row.quadrant);
-    EXPECT_EQ(station.WMOIndex, -1);
+    EXPECT_EQ(station.LatPosition(), row.latitude);
+    EXPECT_EQ(station.LongPosition(), row.longitude);
+    EXPECT_EQ(station.Quadrant(), row.quadrant);
+    EXPECT_EQ(station.WMOIndex(), -1);
     EXPECT_EQ(station.Type, "BBXX");
     EXPECT_EQ(bench.Flags, row.flags);
     EXPECT_EQ(bench.WindUnitInd, 1);
@@ -146,7 +146,7 @@ TEST(SynopDecoder, SeaHeading) {
   EXPECT_EQ(bench.Last().Station.Sender, "EDZW");
   EXPECT_EQ(bench.Last().Station.AddedInfo, "RRB");
   EXPECT_EQ(bench.Last().IssueTime, "15/12:00Z");
-  EXPECT_EQ(bench.Last().Station.Station, "DBBH");
+  EXPECT_EQ(bench.Last().Station.Station(), "DBBH");
 }
 
 TEST(SynopDecoder, WithoutInformation) {
@@ -461,7 +461,7 @@ TEST(SynopDecoder, HumidityStandsInDewPoint) {
 TEST(SynopDecoder, TextsAreUtf8) {
   SynopBench bench;
   ASSERT_TRUE(bench.Decode(BBXX, "BBXX DB\xC0H 15121 99423 10123 \xC0////", false, true).Stored);
-  EXPECT_EQ(bench.Last().Station.Station, "DB\xC3\x80H");
+  EXPECT_EQ(bench.Last().Station.Station(), "DB\xC3\x80H");
   EXPECT_EQ(bench.Last().Msg, "BBXX DB\xC3\x80H 15121 99423 10123 \xC3\x80////");
   EXPECT_EQ(bench.Log.Lines, Lines{"Wrong item found. - Line: 7 - Item: \xC3\x80////"});
 }
