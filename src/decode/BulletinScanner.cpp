@@ -33,6 +33,7 @@ bool IsSynop(MessageType type) noexcept {
 }
 
 MessageType SynopTypeOfWord(std::string_view word) noexcept {
+  if (word.size() != 4) return MessageType::Unknown;
   if (word == "AAXX") return MessageType::AAXX;
   return word == "BBXX" ? MessageType::BBXX : MessageType::Unknown;
 }
@@ -254,8 +255,8 @@ bool BulletinScanner::FindStart() {
 // reports may repeat the type words of their bulletin, and without a heading METAR, SPECI and TAF
 // end what an AAXX or BBXX line has begun.
 void BulletinScanner::AdoptTypeWord() {
-  const std::string_view word = FirstWord(messageText_);
   if (!IsSynop(messageType_)) return;
+  const std::string_view word = FirstWord(messageText_);
   const MessageType type = SynopTypeOfWord(word);
   if (type != MessageType::Unknown) {
     messageType_ = type;

@@ -14,6 +14,8 @@
 #include "decode/aero/MetarRecord.h"
 #include "decode/synop/SynopRecord.h"
 #include "stations/StationDirectory.h"
+#include "tables/TextUtility.h"
+#include "text/MemoryHints.h"
 #include "text/TextArena.h"
 
 namespace zg {
@@ -56,13 +58,17 @@ class StationTextCache {
   std::uint8_t language_ = 0;
 };
 
-// The texts that the records of one store share. Cleared as a whole, never in part.
+// The texts of the records of one store. Those of single records go with the records; those that
+// are made from values and stations stay for the next run, as long as language, units and directory
+// do.
 struct StoreTexts {
   TextArena Arena;
-  ValueTexts Values{Arena};
+  TextArena ValueArena;
+  ValueTexts Values{ValueArena};
   StationTextCache Stations;
   // What the record before had from the heading of its bulletin, mostly the same again.
   std::string_view MsgId;
+  std::string_view Type;
   std::string_view Sender;
   std::string_view AddedInfo;
 
@@ -76,11 +82,31 @@ struct StoreTexts {
     return last;
   }
 
+  // Forgets the texts of single records.
   void Clear() noexcept {
-    Values.Clear();
-    MsgId = Sender = AddedInfo = {};
+    MsgId = Type = Sender = AddedInfo = {};
     Arena.Clear();
+    if (Values.Count() > MostValues) ForgetValues();
   }
+
+  // To be called, with no record in the store, before a run with these: forgets what was made with
+  // others.
+  void UseFor(const StationDirectory& directory, const TextUtility& textUtility) {
+    Stations.UseFor(directory, textUtility.Language());
+    if (textUtility.SameLanguageAndUnits(made_)) return;
+    made_ = textUtility;
+    ForgetValues();
+  }
+
+ private:
+  static constexpr std::size_t MostValues = 200'000;
+
+  void ForgetValues() noexcept {
+    Values.Clear();
+    ValueArena.Clear();
+  }
+
+  TextUtility made_;  // language and units of what is kept
 };
 
 // Records in the order of decoding. A record is written once and never moves or changes until the
@@ -92,10 +118,18 @@ class MessageStore {
   void Reset(std::size_t maxMessages) {
     records_.clear();
     texts_.Clear();
-    records_.reserve(maxMessages);
+    if (records_.capacity() < maxMessages) {
+      records_.reserve(maxMessages);
+      AdviseLargePages(records_.data(), maxMessages * sizeof(Record));
+    }
   }
 
-  Record& Add() { return records_.emplace_back(); }
+  Record& Add() {
+    Record& record = records_.emplace_back();
+    // While the next message is read its place comes near.
+    if (records_.size() < records_.capacity()) PrefetchForWriting(&record + 1, sizeof(Record));
+    return record;
+  }
 
   std::size_t Count() const noexcept { return records_.size(); }
   std::span<const Record> Records() const noexcept { return records_; }
@@ -103,8 +137,8 @@ class MessageStore {
 
   // Bytes that the records and their texts take.
   std::size_t MemoryInUse() const noexcept {
-    return records_.size() * sizeof(Record) + texts_.Arena.Capacity() + texts_.Values.Capacity() +
-           texts_.Stations.Capacity();
+    return records_.size() * sizeof(Record) + texts_.Arena.Capacity() +
+           texts_.ValueArena.Capacity() + texts_.Values.Capacity() + texts_.Stations.Capacity();
   }
 
  private:

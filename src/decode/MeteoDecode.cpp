@@ -187,7 +187,7 @@ bool MeteoDecode::ClaimStore(Family family) {
     const auto size = static_cast<std::size_t>(std::max(settings_.MaxMessages, 0));
     const auto reset = [&](auto& store) {
       store.Reset(size);
-      store.Texts().Stations.UseFor(context_.Stations, context_.Texts().Language());
+      store.Texts().UseFor(context_.Stations, context_.Texts());
     };
     if (family == Family::Synop) {
       reset(context_.Stores.SynopStore);

@@ -36,6 +36,7 @@ class ValueTexts {
   // Forgets all; to be called when the arena is cleared.
   void Clear() noexcept;
 
+  std::size_t Count() const noexcept { return count_; }
   std::size_t Capacity() const noexcept { return slots_.size() * sizeof(Slot); }
 
  private:

@@ -17,7 +17,7 @@
 namespace zg {
 
 // A row of "MeteoStations". Texts are trimmed and live as long as the directory.
-struct StationRow {
+struct alignas(64) StationRow {
   int id = 0;                  // running number of the row in the directory, from 0
   std::int32_t WMOIndex = -1;  // block and station number as one number, -1 without one
   std::string_view Country;

@@ -67,12 +67,15 @@ bool Has(std::int32_t flags, std::uint8_t position) noexcept {
 
 // "15/12:50Z" from ddhhmm, "12:50Z" from hhmm; nothing from another number of characters.
 std::string_view TimeText(std::string_view digits, Maker& make) {
+  if ((digits.size() == 6 || digits.size() == 4) && IsDigits(digits)) {
+    const bool day = digits.size() == 6;
+    return make.Of(day ? Rule::DayAndTime : Rule::Time, static_cast<int>(Value(digits)),
+                   [&] { return FormatText(digits, day ? "00/00:00Z" : "00:00Z"); });
+  }
   const std::size_t count = CharacterCount(digits);
-  if (count != 6 && count != 4) return {};
-  const std::string_view mask = count == 6 ? "00/00:00Z" : "00:00Z";
-  if (!IsDigits(digits)) return make.Arena().Copy(FormatText(digits, mask));
-  return make.Of(count == 6 ? Rule::DayAndTime : Rule::Time, static_cast<int>(Value(digits)),
-                 [&] { return FormatText(digits, mask); });
+  if (count == 6) return make.Arena().Copy(FormatText(digits, "00/00:00Z"));
+  if (count == 4) return make.Arena().Copy(FormatText(digits, "00:00Z"));
+  return {};
 }
 
 // "15/12:00Z - 18:00Z" from a period ddhhhh, "12:00Z - 18:00Z" from hhhh.
@@ -363,6 +366,7 @@ const MetarData& StoreMetarRecord(const MetarRawData& raw, int stationRow, const
   }
   record.Section = {sections, count};
   ApplyFlags(raw, make, sections[0], record);
+  texts.Arena.PrefetchNext(2 * sizeof(MetarSection));
   return record;
 }
 

@@ -35,14 +35,6 @@ const StationPlace* MakePlace(const StationBlock& block, const TextUtility& text
   return place;
 }
 
-// The type as a constant text; a word that stood in the place of one is copied.
-std::string_view TypeText(std::string_view type, TextArena& arena) {
-  for (const std::string_view name : {"METAR", "TAF", "SPECI", "AAXX", "BBXX"}) {
-    if (type == name) return name;
-  }
-  return arena.Copy(type);
-}
-
 }  // namespace
 
 std::int32_t ClassifyStation(std::string_view Station, std::string_view Type) noexcept {
@@ -64,7 +56,7 @@ StationTexts FillStationTexts(const StationBlock& block, int stationRow,
   result.MsgId = texts.Repeated(texts.MsgId, block.MsgId);
   result.Sender = texts.Repeated(texts.Sender, block.Sender);
   result.AddedInfo = texts.Repeated(texts.AddedInfo, block.AddedInfo);
-  result.Type = TypeText(block.Type, texts.Arena);
+  result.Type = texts.Repeated(texts.Type, block.Type);
   result.StationKind = block.Type == "BBXX" ? ClassifyStation(block.Station, block.Type)
                                             : std::int32_t{StationKinds::Land};
   return result;

@@ -49,6 +49,10 @@ class TextUtility {
     units_[static_cast<std::size_t>(kind)] = suffix;
   }
 
+  bool SameLanguageAndUnits(const TextUtility& other) const noexcept {
+    return language_ == other.language_ && units_ == other.units_;
+  }
+
   // hshs, height of the base of a cloud layer (WMO code table 1677) in metres: 56 is "1800 m".
   // Codes 51 to 55 and above 99 are empty. The same in both languages, as are the next two.
   std::string CloudHeigh(std::uint8_t key) const;

@@ -35,6 +35,9 @@ class TextArena {
   // Forgets everything handed out. The chunks are kept for the next round.
   void Clear() noexcept;
 
+  // Has the memory that is handed out next brought near.
+  void PrefetchNext(std::size_t size) const noexcept;
+
   // Bytes taken from the system.
   std::size_t Capacity() const noexcept;
 

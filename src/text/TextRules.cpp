@@ -24,19 +24,6 @@ std::size_t NumberLength(std::string_view text) noexcept {
   return digits > 0 ? at : 0;
 }
 
-// Reads a text of one to nine figures, as nearly every number of a bulletin is one.
-bool ReadFigures(std::string_view text, std::uint32_t& whole) noexcept {
-  if (text.empty() || text.size() > 9) return false;
-  std::uint32_t value = 0;
-  for (char c : text) {
-    const unsigned digit = static_cast<unsigned char>(c) - unsigned{'0'};
-    if (digit > 9) return false;
-    value = value * 10 + digit;
-  }
-  whole = value;
-  return true;
-}
-
 // The value of a text that NumberLength has measured.
 double ParseMeasured(std::string_view text) noexcept {
   if (!text.empty() && text[0] == '+') text.remove_prefix(1);

@@ -47,6 +47,13 @@ constexpr bool Holds(std::string_view text, std::string_view part) noexcept {
   return false;
 }
 
+constexpr bool Holds(std::string_view text, char c) noexcept {
+  for (char other : text) {
+    if (other == c) return true;
+  }
+  return false;
+}
+
 constexpr bool IsDigit(char c) noexcept { return c >= '0' && c <= '9'; }
 constexpr bool IsLetter(char c) noexcept { return c >= 'A' && c <= 'Z'; }
 
@@ -94,9 +101,27 @@ std::optional<T> ToInteger(double value) noexcept {
   return static_cast<T>(rounded);
 }
 
+// Reads a text of one to nine figures and nothing else, as nearly every number of a bulletin is.
+// False for any other text; then `whole` is not touched.
+constexpr bool ReadFigures(std::string_view text, std::uint32_t& whole) noexcept {
+  if (text.empty() || text.size() > 9) return false;
+  std::uint32_t value = 0;
+  for (char c : text) {
+    const unsigned digit = static_cast<unsigned char>(c) - unsigned{'0'};
+    if (digit > 9) return false;
+    value = value * 10 + digit;
+  }
+  whole = value;
+  return true;
+}
+
 // Strict conversion into an integer of type T: "1.5" rounds to 2, "256" is nothing for 8 bits.
 template <typename T>
 std::optional<T> StrictInteger(std::string_view text) noexcept {
+  if (std::uint32_t whole = 0; ReadFigures(text, whole)) {
+    if (whole > static_cast<std::uint64_t>(std::numeric_limits<T>::max())) return std::nullopt;
+    return static_cast<T>(whole);
+  }
   const std::optional<double> number = StrictNumber(text);
   return number ? ToInteger<T>(*number) : std::nullopt;
 }

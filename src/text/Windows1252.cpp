@@ -131,10 +131,12 @@ std::string Utf8ToWindows1252(std::string_view text) {
 }
 
 void UpperCaseWindows1252(std::string& bytes) noexcept {
-  if (IsAscii(bytes)) {
-    for (char& c : bytes) c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
-    return;
+  unsigned char all = 0;
+  for (char& c : bytes) {
+    all |= static_cast<unsigned char>(c);
+    c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
   }
+  if (all < 0x80) return;
   for (char& c : bytes) c = static_cast<char>(Capitals[static_cast<unsigned char>(c)]);
 }
 

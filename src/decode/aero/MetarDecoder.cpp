@@ -7,6 +7,7 @@
 #include "decode/aero/MetarWalk.h"
 #include "shell/GenericUtility.h"
 #include "tables/MetarReportText.h"
+#include "text/MemoryHints.h"
 
 namespace zg {
 namespace {
@@ -33,12 +34,13 @@ MetarDecoder::Outcome MetarDecoder::DecodeMetarMessage(const BulletinMessage& me
   scratch_.Clear();
   raw_.RawText = scratch_.Text(message.Text);
   DecodeHeading(message);
+  const StationRow* row = context_.Stations.FindByIcaoName(raw_.Station.Station);
+  if (row != nullptr) PrefetchForReading(row);
   if (!FindTime(message)) {
     LogAtLine(context_, "Observ. Time o Valid Time non trovato. - Linea: ",
               "Observ. Time or Valid Time not found. - Line: ", message.LineCount);
     return Reject(!message.SingleMessage);
   }
-  const StationRow* row = context_.Stations.FindByIcaoName(raw_.Station.Station);
   LoadStationRecord(row, raw_.Station);
   if (!PassesFilters(message.SingleMessage)) return Reject(false);
   if (raw_.Station.Station.empty()) {

@@ -114,7 +114,7 @@ Verdict TryMiles(MetarWalk& walk, std::string_view word) {
   double whole = 0;
   double part = Value(word);
   double divisor = 1;
-  if (Holds(word, "/")) {
+  if (Holds(word, '/')) {
     if (word.size() == 6 && IsDigit(word[1])) {
       whole = Value(Mid(word, 1, 1));
       part = Value(Mid(word, 2, 1));
@@ -143,10 +143,10 @@ Verdict TryRunwayVisualRange(MetarWalk& walk, std::string_view word) {
     range = ReplaceAll(range, "FT", "");
   }
   range.erase(0, std::min(range.find('/') + 1, range.size()));
-  if (Holds(range, "M")) {
+  if (Holds(range, 'M')) {
     Set(walk, MetarFlag::RvrBelow);
     std::erase(range, 'M');
-  } else if (Holds(range, "P")) {
+  } else if (Holds(range, 'P')) {
     Set(walk, MetarFlag::RvrAbove);
     std::erase(range, 'P');
   }
@@ -161,7 +161,7 @@ Verdict TryRunwayVisualRange(MetarWalk& walk, std::string_view word) {
 
 // dndndnVdxdxdx, the limits of a variable direction.
 bool IsDirectionRange(std::string_view word) noexcept {
-  return Holds(word, "V") && IsNumeric(Mid(word, 1, 3)) && IsNumeric(Right(word, 3));
+  return Holds(word, 'V') && IsNumeric(Mid(word, 1, 3)) && IsNumeric(Right(word, 3));
 }
 
 // The unit of wind speed that a word ends in.
@@ -188,7 +188,7 @@ Verdict TryWind(MetarWalk& walk, std::string_view word) {
     return Verdict::Wrong;
   }
   if (!SetStrict(section.WindSpeed, part(4, 2))) return Verdict::Wrong;
-  if (Holds(word, "G") && !SetStrict(section.Gust, part(7, 2))) return Verdict::Wrong;
+  if (Holds(word, 'G') && !SetStrict(section.Gust, part(7, 2))) return Verdict::Wrong;
   if (walk.IsLastWord()) return Verdict::Taken;
 
   const std::string_view next = walk.Ahead();
@@ -263,7 +263,7 @@ Verdict TryForecastTemperature(MetarWalk& walk, std::string_view before, std::st
 Verdict TryTemperature(MetarWalk& walk, std::string_view word) {
   const bool runway = word.size() > 1 && word[0] == 'R' && IsDigit(word[1]);
   if (Holds(word, "SM") || runway || HasCloudCover(word)) return Verdict::Declined;
-  const bool forecast = Holds(word, "T");
+  const bool forecast = Holds(word, 'T');
   std::string group(word);
   if (forecast) std::erase_if(group, [](char c) { return c == 'T' || c == 'Z'; });
   std::replace(group.begin(), group.end(), 'M', '-');
@@ -428,7 +428,7 @@ Verdict TryWindRemark(MetarWalk& walk, std::string_view word) {
   if (walk.IsLastWord()) return Verdict::Wrong;
   if (Holds(walk.Ahead(), "VRB")) take(walk.Ahead(), " ");
   if (walk.IsLastWord()) return Verdict::Wrong;
-  if (walk.Ahead().size() == 7 && Holds(walk.Ahead(), "V")) {
+  if (walk.Ahead().size() == 7 && Holds(walk.Ahead(), 'V')) {
     take(ReplaceAll(walk.Ahead(), "V", "-"), "");
   }
   if (walk.IsLastWord()) return Verdict::Wrong;

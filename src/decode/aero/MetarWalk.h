@@ -77,7 +77,9 @@ bool SetStrict(T& field, std::string_view part) noexcept {
 template <typename T>
 bool SetLenient(T& field, std::string_view part, double factor = 1, double divisor = 1) noexcept {
   if (IsNotReported(part)) return true;
-  const std::optional<T> value = ToInteger<T>(Value(part) * factor / divisor);
+  std::uint32_t figures = 0;
+  const double number = ReadFigures(part, figures) ? figures : Value(part);
+  const std::optional<T> value = ToInteger<T>(number * factor / divisor);
   if (value) field = *value;
   return value.has_value();
 }
