@@ -22,10 +22,10 @@ inline void PrefetchForReading(const void* memory) noexcept { __builtin_prefetch
 // Asks for large pages: a walk through many megabytes then needs few entries of the page table.
 inline void AdviseLargePages(void* memory, std::size_t size) noexcept {
 #ifdef MADV_HUGEPAGE
-  constexpr std::uintptr_t page = std::uintptr_t{2} * 1024 * 1024;
-  const auto start = (reinterpret_cast<std::uintptr_t>(memory) + page - 1) & ~(page - 1);
-  const auto end = (reinterpret_cast<std::uintptr_t>(memory) + size) & ~(page - 1);
-  if (start < end) madvise(reinterpret_cast<void*>(start), end - start, MADV_HUGEPAGE);
+  constexpr std::size_t page = std::size_t{2} * 1024 * 1024;
+  const std::size_t skipped = (page - reinterpret_cast<std::uintptr_t>(memory) % page) % page;
+  if (size < skipped + page) return;
+  madvise(static_cast<char*>(memory) + skipped, (size - skipped) / page * page, MADV_HUGEPAGE);
 #else
   static_cast<void>(memory);
   static_cast<void>(size);
