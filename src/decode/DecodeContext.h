@@ -62,6 +62,30 @@ struct DecodeContext {
   const TextUtility& Texts() const noexcept { return Units.Texts; }
 };
 
+// What became of a message.
+struct DecodeOutcome {
+  bool Stored = false;
+  bool PrintWrongLine = false;  // the message is to go to the wrong-line file
+};
+
+// Shows a message that has passed the filters. `time` is YYGGgg of its heading or report.
+inline void Publish(const DecodeContext& context, const StationBlock& station,
+                    std::string_view listName, std::string_view time, int decodedCount) {
+  const std::string clock = std::string(Mid(time, 3, 2)) + ":" + std::string(Mid(time, 5, 2));
+  AcceptedMessage accepted;
+  accepted.Country = station.Country;
+  accepted.ListName = listName;
+  accepted.Station = station.Station;
+  accepted.MsgId = station.MsgId;
+  accepted.Type = station.Type;
+  accepted.Sender = station.Sender;
+  accepted.SenderCity = context.Stations.GetStationByIcaoName(station.Sender);
+  accepted.Day = Mid(time, 1, 2);
+  accepted.Time = clock;
+  accepted.DecodedCount = decodedCount;
+  context.Observer.MessageAccepted(accepted);
+}
+
 // What a decoder needs while it works on one message.
 class MessageScratch {
  public:

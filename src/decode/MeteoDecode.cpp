@@ -161,20 +161,12 @@ bool MeteoDecode::DecodeMessage(const BulletinMessage& message) {
   }
   const bool synop = message.Type == MessageType::AAXX || message.Type == MessageType::BBXX;
   if (!ClaimStore(synop ? Family::Synop : Family::Metar)) return false;
-  bool stored = false;
-  bool wrong = false;
-  if (synop) {
-    const auto outcome = synopDecoder_.DecodeSynopMessage(message, summary_.DecodedCount);
-    stored = outcome.Stored;
-    wrong = outcome.PrintWrongLine;
-  } else {
-    const auto outcome = metarDecoder_.DecodeMetarMessage(message, summary_.DecodedCount);
-    stored = outcome.Stored;
-    wrong = outcome.PrintWrongLine;
-  }
-  if (wrong) PrintWrongLine(message.Text);
-  if (stored) CountStored();
-  return stored;
+  const DecodeOutcome outcome =
+      synop ? synopDecoder_.DecodeSynopMessage(message, summary_.DecodedCount)
+            : metarDecoder_.DecodeMetarMessage(message, summary_.DecodedCount);
+  if (outcome.PrintWrongLine) PrintWrongLine(message.Text);
+  if (outcome.Stored) CountStored();
+  return outcome.Stored;
 }
 
 // The first message of a run chooses the store and empties it; messages of the other family are

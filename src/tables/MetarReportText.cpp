@@ -61,10 +61,6 @@ constexpr std::array<SectionName, 8> SectionNames = {{
 // From here on an altimeter setting is in hundredths of an inch, not in hectopascals.
 constexpr std::int16_t FirstInchSetting = 1501;
 
-bool Has(std::int32_t flags, std::uint8_t position) noexcept {
-  return (static_cast<std::uint32_t>(flags) >> position & 1U) != 0;
-}
-
 // "15/12:50Z" from ddhhmm, "12:50Z" from hhmm; nothing from another number of characters.
 std::string_view TimeText(std::string_view digits, Maker& make) {
   if ((digits.size() == 6 || digits.size() == 4) && IsDigits(digits)) {
@@ -135,13 +131,13 @@ std::string_view SeaPressureText(std::int16_t value, Maker& make) {
 // conversion knows, so that they stay as reported.
 std::string_view SpeedText(std::uint8_t value, std::int32_t flags, Maker& make) {
   if (IsMissing(value)) return {};
-  if (Has(flags, MetarFlag::WindKt)) {
+  if (HasFlag(flags, MetarFlag::WindKt)) {
     return make.Quantity(Rule::Knots, UnitKind::Speed, value, " kt");
   }
-  if (Has(flags, MetarFlag::WindKmh)) {
+  if (HasFlag(flags, MetarFlag::WindKmh)) {
     return make.Quantity(Rule::Kmh, UnitKind::Speed, value, " kmh");
   }
-  if (Has(flags, MetarFlag::WindMps)) {
+  if (HasFlag(flags, MetarFlag::WindMps)) {
     return make.Quantity(Rule::Mps, UnitKind::Speed, value, " mps");
   }
   return {};
@@ -149,10 +145,10 @@ std::string_view SpeedText(std::uint8_t value, std::int32_t flags, Maker& make) 
 
 std::string_view VisibilityText(std::int32_t value, std::int32_t flags, Maker& make) {
   if (IsMissing(value)) return {};
-  if (Has(flags, MetarFlag::VisibilityMetres)) {
+  if (HasFlag(flags, MetarFlag::VisibilityMetres)) {
     return make.Quantity(Rule::DistanceMetres, UnitKind::Distance, value, " m");
   }
-  if (Has(flags, MetarFlag::VisibilityMiles)) {
+  if (HasFlag(flags, MetarFlag::VisibilityMiles)) {
     return make.Converted(Rule::Miles, UnitKind::Distance, value,
                           [&] { return FormatNumber(value / 1000.0, "0.0 SM"); });
   }
@@ -161,8 +157,9 @@ std::string_view VisibilityText(std::int32_t value, std::int32_t flags, Maker& m
 
 std::string_view RunwayRangeText(std::int16_t value, std::int32_t flags, Maker& make) {
   if (IsMissing(value)) return {};
-  return Has(flags, MetarFlag::RvrFeet) ? make.Quantity(Rule::Feet, UnitKind::Level, value, " ft")
-                                        : make.Quantity(Rule::Metres, UnitKind::Level, value, " m");
+  return HasFlag(flags, MetarFlag::RvrFeet)
+             ? make.Quantity(Rule::Feet, UnitKind::Level, value, " ft")
+             : make.Quantity(Rule::Metres, UnitKind::Level, value, " m");
 }
 
 void StoreClouds(const MetarRawSection& raw, Maker& make, MetarSection& section) {
@@ -196,7 +193,7 @@ void StoreSection(const MetarRawSection& raw, std::int32_t flags, Maker& make,
     section.AltimeterPressure = PressureText(raw.AltimeterPressure, make);
   }
   if (!IsMissing(raw.SeaPressureLevel)) {
-    section.SeaPressureLevel = Has(flags, MetarFlag::SeaPressure)
+    section.SeaPressureLevel = HasFlag(flags, MetarFlag::SeaPressure)
                                    ? SeaPressureText(raw.SeaPressureLevel, make)
                                    : PressureText(raw.SeaPressureLevel, make);
   }
@@ -250,8 +247,8 @@ void StoreWholeMessage(const MetarRawData& raw, Maker& make, MetarData& record) 
   if (!IsMissing(raw.RVRRunway)) record.RVRRunway = make.Arena().Copy(raw.RVRRunway);
   record.RVRVisibility = RunwayRangeText(raw.RVRVisibility, raw.FilterFlags, make);
   if (!record.RVRVisibility.empty()) {
-    const bool above = Has(raw.FilterFlags, MetarFlag::RvrAbove);
-    if (above || Has(raw.FilterFlags, MetarFlag::RvrBelow)) {
+    const bool above = HasFlag(raw.FilterFlags, MetarFlag::RvrAbove);
+    if (above || HasFlag(raw.FilterFlags, MetarFlag::RvrBelow)) {
       record.RVRVisibility =
           make.Arena().Copy((above ? "> " : "< ") + std::string(record.RVRVisibility));
     }
@@ -304,33 +301,34 @@ void StoreWholeMessage(const MetarRawData& raw, Maker& make, MetarData& record) 
 void ApplyFlags(const MetarRawData& raw, Maker& make, MetarSection& report, MetarData& record) {
   const TextUtility& tables = make.Tables();
   const std::int32_t flags = raw.FilterFlags;
-  record.IsAO1 = Has(flags, MetarFlag::AO1);
-  record.IsAO2 = Has(flags, MetarFlag::AO2);
-  record.IsCOR = Has(flags, MetarFlag::Cor);
-  record.IsAMD = Has(flags, MetarFlag::Amd);
-  record.IsManual = !Has(flags, MetarFlag::Auto);
-  if (Has(flags, MetarFlag::Skc)) {
+  record.IsAO1 = HasFlag(flags, MetarFlag::AO1);
+  record.IsAO2 = HasFlag(flags, MetarFlag::AO2);
+  record.IsCOR = HasFlag(flags, MetarFlag::Cor);
+  record.IsAMD = HasFlag(flags, MetarFlag::Amd);
+  record.IsManual = !HasFlag(flags, MetarFlag::Auto);
+  if (HasFlag(flags, MetarFlag::Skc)) {
     report.CloudCover[0] = tables.Choose("Cielo Sereno", "Sky Clear");
     report.CloudCoverShort[0] = "0/8";
   }
-  if (Has(flags, MetarFlag::Cavok)) {
+  if (HasFlag(flags, MetarFlag::Cavok)) {
     report.Weather[0] = tables.Choose("Tempo e Visibilita' OK", "Ceiling and Visibility OK");
   }
-  if (Has(flags, MetarFlag::Clr)) {
+  if (HasFlag(flags, MetarFlag::Clr)) {
     record.VerticalVisibility = make.Converted(Rule::ClearBelow, UnitKind::Level, 0, [&] {
       return std::string(tables.Choose("Nessuna nube sotto 12000 ft", "No Clouds under 12000 ft"));
     });
     record.VerticalVisibilityCopy = "CLR";
   }
-  if (Has(flags, MetarFlag::NoSignificantChange)) {
+  if (HasFlag(flags, MetarFlag::NoSignificantChange)) {
     report.Weather[0] = tables.Choose("Fenomeni non significativi", "No Significant Weather");
     report.WeatherCount = 1;
   }
-  if (Has(flags, MetarFlag::WindVariable)) report.WindDir = tables.Choose("Variabile", "Variable");
-  if (Has(flags, MetarFlag::Nsc)) {
+  if (HasFlag(flags, MetarFlag::WindVariable))
+    report.WindDir = tables.Choose("Variabile", "Variable");
+  if (HasFlag(flags, MetarFlag::Nsc)) {
     report.CloudCover[0] = tables.Choose("Nubi non significative", "No Significant Clouds");
   }
-  if (Has(flags, MetarFlag::WindShear)) {
+  if (HasFlag(flags, MetarFlag::WindShear)) {
     const std::string text =
         std::string(record.WindRemarks) +
         std::string(tables.Choose(" Conditione di Wind-Shear", " Wind-Shear Condition"));

@@ -28,8 +28,7 @@ unsigned TypeFlag(MessageType type) noexcept {
 
 }  // namespace
 
-MetarDecoder::Outcome MetarDecoder::DecodeMetarMessage(const BulletinMessage& message,
-                                                       int decodedCount) {
+DecodeOutcome MetarDecoder::DecodeMetarMessage(const BulletinMessage& message, int decodedCount) {
   ResetMetarRecord(raw_);
   scratch_.Clear();
   raw_.RawText = scratch_.Text(message.Text);
@@ -49,7 +48,10 @@ MetarDecoder::Outcome MetarDecoder::DecodeMetarMessage(const BulletinMessage& me
     return Reject(!message.SingleMessage);
   }
   raw_.Accepted = 0;
-  if (!message.SingleMessage && context_.Observer.WantsAccepted()) Publish(decodedCount);
+  if (!message.SingleMessage && context_.Observer.WantsAccepted()) {
+    Publish(context_, raw_.Station, raw_.Station.Station,
+            raw_.BulletinTime.empty() ? raw_.ObservationTime : raw_.BulletinTime, decodedCount);
+  }
   if (wordIndex_ < message.WordList.size() && message.WordList[wordIndex_] == "NIL") {
     if (!message.SingleMessage) context_.Observer.StationRemoved(raw_.Station.Station);
     return Reject(!message.SingleMessage);
@@ -121,23 +123,6 @@ bool MetarDecoder::PassesFilters(bool singleMessage) {
                            (context_.Filters.QuadrantMask & bit) != 0);
 }
 
-void MetarDecoder::Publish(int decodedCount) {
-  const std::string& time = raw_.BulletinTime.empty() ? raw_.ObservationTime : raw_.BulletinTime;
-  const std::string clock = std::string(Mid(time, 3, 2)) + ":" + std::string(Mid(time, 5, 2));
-  AcceptedMessage accepted;
-  accepted.Country = raw_.Station.Country;
-  accepted.ListName = raw_.Station.Station;
-  accepted.Station = raw_.Station.Station;
-  accepted.MsgId = raw_.Station.MsgId;
-  accepted.Type = raw_.Station.Type;
-  accepted.Sender = raw_.Station.Sender;
-  accepted.SenderCity = context_.Stations.GetStationByIcaoName(raw_.Station.Sender);
-  accepted.Day = Mid(time, 1, 2);
-  accepted.Time = clock;
-  accepted.DecodedCount = decodedCount;
-  context_.Observer.MessageAccepted(accepted);
-}
-
 void MetarDecoder::DecodeWords(const BulletinMessage& message) {
   MetarWalk walk{.Raw = raw_, .Scratch = scratch_, .WordList = message.WordList};
   walk.Forms = std::move(forms_);
@@ -154,7 +139,7 @@ void MetarDecoder::DecodeWords(const BulletinMessage& message) {
   forms_ = std::move(walk.Forms);
 }
 
-MetarDecoder::Outcome MetarDecoder::Reject(bool printWrongLine) {
+DecodeOutcome MetarDecoder::Reject(bool printWrongLine) {
   ResetMetarRecord(raw_);
   return {.Stored = false, .PrintWrongLine = printWrongLine};
 }

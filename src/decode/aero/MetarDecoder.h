@@ -13,22 +13,16 @@ class MetarDecoder {
  public:
   explicit MetarDecoder(DecodeContext& context) noexcept : context_(context) {}
 
-  struct Outcome {
-    bool Stored = false;
-    bool PrintWrongLine = false;  // the message is to go to the wrong-line file
-  };
-
   // Decodes one message. A word that no group fits is passed over, one that cannot be read is
   // logged; neither loses the message. `decodedCount` is the number of messages stored before it.
-  Outcome DecodeMetarMessage(const BulletinMessage& message, int decodedCount);
+  DecodeOutcome DecodeMetarMessage(const BulletinMessage& message, int decodedCount);
 
  private:
   void DecodeHeading(const BulletinMessage& message);
   bool FindTime(const BulletinMessage& message);
   bool PassesFilters(bool singleMessage);
-  void Publish(int decodedCount);
   void DecodeWords(const BulletinMessage& message);
-  Outcome Reject(bool printWrongLine);
+  DecodeOutcome Reject(bool printWrongLine);
 
   DecodeContext& context_;
   MetarRawData raw_;

@@ -298,13 +298,21 @@ Verdict TryCloud(MetarWalk& walk, std::string_view word) {
   return Verdict::Taken;
 }
 
+// Forms of cloud that may stand by themselves, with their type (WMO code table 0500).
+enum class CloudForm { TowerCumulus, Cumulonimbus, Cumulus };
+struct CloudFormRow {
+  std::string_view word;
+  std::uint8_t type;
+};
+constexpr std::array<CloudFormRow, 3> CloudFormRows = {{{"TCU", 8}, {"CB", 9}, {"CU", 9}}};
+
 // A form of cloud by itself, or written ahead of its group: TCUSCT030 is read as SCT030TCU.
-template <std::size_t Length, std::uint8_t Type>
+template <CloudForm Row>
 Verdict TryCloudForm(MetarWalk& walk, std::string_view word) {
-  constexpr std::string_view form = Length == 3 ? "TCU" : Type == 9 ? "CB" : "CU";
+  constexpr std::string_view form = CloudFormRows[static_cast<std::size_t>(Row)].word;
   if (!word.starts_with(form)) return Verdict::Declined;
   if (word.size() == form.size()) {
-    walk.Section().CloudType[walk.CloudLayer] = Type == 7 ? 9 : Type;
+    walk.Section().CloudType[walk.CloudLayer] = CloudFormRows[static_cast<std::size_t>(Row)].type;
     return Verdict::Taken;
   }
   if (walk.Forms.size() >= MaxRewrites) return Verdict::Declined;
@@ -482,9 +490,9 @@ constexpr std::array<Recogniser, 36> Table = {{
     {"Intermittent change", "INTER GGGeGe", "I", None, false, TryInter},
     {"Vertical visibility", "VVhshshs", "V", None, false, TryVerticalVisibility},
     {"Wind shear", "WShwshwshws/dddffKT", "W", None, false, TryWindShear},
-    {"Towering cumulus", "TCU", "T", None, true, TryCloudForm<3, 8>},
-    {"Cumulonimbus", "CB", "C", None, true, TryCloudForm<2, 9>},
-    {"Cumulus", "CU", "C", None, true, TryCloudForm<2, 7>},
+    {"Towering cumulus", "TCU", "T", None, true, TryCloudForm<CloudForm::TowerCumulus>},
+    {"Cumulonimbus", "CB", "C", None, true, TryCloudForm<CloudForm::Cumulonimbus>},
+    {"Cumulus", "CU", "C", None, true, TryCloudForm<CloudForm::Cumulus>},
     {"Time of observation", "YYGGggZ", "", EndsInZ, false, TryLateTime},
     {"Weather", "w'w'", "+-BDFGHIMPRSTV", None, false, TryWeather},
 }};

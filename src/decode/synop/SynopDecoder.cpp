@@ -24,8 +24,7 @@ bool BeginsWithLetter(std::string_view word) noexcept {
 
 }  // namespace
 
-SynopDecoder::Outcome SynopDecoder::DecodeSynopMessage(const BulletinMessage& message,
-                                                       int decodedCount) {
+DecodeOutcome SynopDecoder::DecodeSynopMessage(const BulletinMessage& message, int decodedCount) {
   ResetSynopRecord(raw_);
   scratch_.Clear();
   stationRow_ = -1;
@@ -40,7 +39,9 @@ SynopDecoder::Outcome SynopDecoder::DecodeSynopMessage(const BulletinMessage& me
   if (step == Step::GoOn) step = FindStation(message.SingleMessage);
   if (step == Step::GoOn) step = PassQuadrant(message.SingleMessage);
   if (step == Step::GoOn && !message.SingleMessage) {
-    if (context_.Observer.WantsAccepted()) Publish(decodedCount);
+    if (context_.Observer.WantsAccepted()) {
+      Publish(context_, raw_.Station, listName_, raw_.IssueTime, decodedCount);
+    }
     if (walk.Word() == "NIL") {
       context_.Observer.StationRemoved(listName_);
       step = Step::Reject;
@@ -178,23 +179,6 @@ SynopDecoder::Step SynopDecoder::PassQuadrant(bool singleMessage) {
   SetFlag(raw_.FilterFlags, QuadrantFlag(quadrant));
   const bool passes = singleMessage || (context_.Filters.QuadrantMask & bit) != 0;
   return passes ? Step::GoOn : Step::Drop;
-}
-
-void SynopDecoder::Publish(int decodedCount) {
-  const std::string clock =
-      std::string(Mid(raw_.IssueTime, 3, 2)) + ":" + std::string(Mid(raw_.IssueTime, 5, 2));
-  AcceptedMessage accepted;
-  accepted.Country = raw_.Station.Country;
-  accepted.ListName = listName_;
-  accepted.Station = raw_.Station.Station;
-  accepted.MsgId = raw_.Station.MsgId;
-  accepted.Type = raw_.Station.Type;
-  accepted.Sender = raw_.Station.Sender;
-  accepted.SenderCity = context_.Stations.GetStationByIcaoName(raw_.Station.Sender);
-  accepted.Day = Mid(raw_.IssueTime, 1, 2);
-  accepted.Time = clock;
-  accepted.DecodedCount = decodedCount;
-  context_.Observer.MessageAccepted(accepted);
 }
 
 // The sections follow each other in a fixed order: what stands behind a marker out of order is not

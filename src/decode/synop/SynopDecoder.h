@@ -12,14 +12,9 @@ class SynopDecoder {
  public:
   explicit SynopDecoder(DecodeContext& context) noexcept : context_(context) {}
 
-  struct Outcome {
-    bool Stored = false;
-    bool PrintWrongLine = false;  // the message is to go to the wrong-line file
-  };
-
   // Decodes one message. A group that cannot be read is logged and stays missing; it does not lose
   // the message. `decodedCount` is the number of messages stored before it.
-  Outcome DecodeSynopMessage(const BulletinMessage& message, int decodedCount);
+  DecodeOutcome DecodeSynopMessage(const BulletinMessage& message, int decodedCount);
 
  private:
   enum class Step { GoOn, Reject, Drop };
@@ -29,7 +24,6 @@ class SynopDecoder {
   Step ReadLandHeader(SynopWalk& walk);
   Step FindStation(bool singleMessage);
   Step PassQuadrant(bool singleMessage);
-  void Publish(int decodedCount);
   void ReadSections(SynopWalk& walk);
   void LogWithoutInformation(std::int32_t line);
 

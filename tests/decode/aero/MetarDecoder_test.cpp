@@ -23,8 +23,8 @@ struct MetarBench : DecodeFixture {
 
   // `headerEnd` is the index of the station; words without heading have the station in front, or
   // type words ahead of it.
-  MetarDecoder::Outcome Decode(MessageType type, std::string_view text, std::size_t headerEnd,
-                               bool heading = true, bool single = false) {
+  DecodeOutcome Decode(MessageType type, std::string_view text, std::size_t headerEnd,
+                       bool heading = true, bool single = false) {
     Log.Lines.clear();
     Observer.Messages.clear();
     Observer.Removed.clear();
@@ -39,8 +39,7 @@ struct MetarBench : DecodeFixture {
     message.SingleMessage = single;
     return decoder.DecodeMetarMessage(message, static_cast<int>(Metars().size()));
   }
-  MetarDecoder::Outcome DecodeTypedReport(std::string_view text,
-                                          MessageType type = MessageType::METAR) {
+  DecodeOutcome DecodeTypedReport(std::string_view text, MessageType type = MessageType::METAR) {
     return Decode(type, text, 0, false, true);
   }
   const MetarData& Last() const { return Metars().back(); }

@@ -25,8 +25,8 @@ struct SynopBench : DecodeFixture {
     };
   }
 
-  SynopDecoder::Outcome Decode(MessageType type, std::string_view text, bool heading = true,
-                               bool single = false) {
+  DecodeOutcome Decode(MessageType type, std::string_view text, bool heading = true,
+                       bool single = false) {
     Log.Lines.clear();
     Observer.Messages.clear();
     Observer.Removed.clear();
