@@ -1,51 +1,77 @@
 #include "FuzzDecoder.h"
 
-#include <cstdlib>
+#include <utility>
 
+#include "batch/JsonSyntax.h"
 #include "batch/RecordJson.h"
+#include "stations/StationImport.h"
 #include "text/Windows1252.h"
 
-namespace zg {
+namespace zg::fuzz {
+namespace {
+
+template <typename Raw, typename Data>
+void CheckRecord(std::string& line, const Raw& raw, const Data& data) {
+  line.clear();
+  AppendRecord(line, RecordFields::Both, raw, data);
+  if (!IsUtf8(line)) Die("a record that is not UTF-8: " + line);
+  if (!line.ends_with('\n')) Die("a record that does not end its line: " + line);
+  line.pop_back();
+  if (!test::JsonSyntax::IsValid(line)) Die("a record that is not JSON: " + line);
+}
+
+}  // namespace
 
 void JsonObserver::MetarStored(const MetarRawData& raw, const MetarData& data) {
-  line_.clear();
-  AppendRecord(line_, RecordFields::Both, raw, data);
-  if (!IsUtf8(line_)) std::abort();
+  CheckRecord(line_, raw, data);
 }
 
 void JsonObserver::SynopStored(const SynopRawData& raw, const SynopData& data) {
-  line_.clear();
-  AppendRecord(line_, RecordFields::Both, raw, data);
-  if (!IsUtf8(line_)) std::abort();
+  CheckRecord(line_, raw, data);
 }
 
-FuzzDecoder::FuzzDecoder()
-    : database_(prompt_),
-      conversion_(texts_),
-      context_{.Stations = stations_,
-               .Units = {texts_, conversion_},
-               .Filters = {},
-               .Stores = stores_,
-               .Log = log_,
-               .Observer = observer_} {
-  texts_.SetUnit(UnitKind::Level, " m");
-  texts_.SetUnit(UnitKind::Speed, " kmh");
-  texts_.SetUnit(UnitKind::Distance, " km");
-  texts_.SetUnit(UnitKind::Pressure, " inHg");
-  texts_.SetUnit(UnitKind::Temperature, " °F");
-  // A database beside the fuzzer, as the build makes it, gives the stations.
-  if (database_.ConnectDatabase("ICAOData.mdb")) stations_.Load(database_);
+FuzzDecoder::FuzzDecoder() {
+  folder_.OpenDatabase(database_);
+  ImportStations(ZG_SOURCE_DIR "/tests/golden/app/wmo_index.txt");
+  ImportStations(ZG_SOURCE_DIR "/tests/golden/app/icao_index.txt");
+  if (!stations_.Load(database_) || stations_.Size() == 0) Die("no stations");
+}
+
+void FuzzDecoder::ImportStations(const char* list) {
+  const StationImport import = ImportStationList(list, database_, log_, progress_);
+  if (import.Outcome != StationImport::Result::Done) Die(import.Message);
+}
+
+void FuzzDecoder::ChooseTexts(std::size_t length) {
+  const bool english = length % 2 == 0;
+  const auto setUnit = [this, english](UnitKind kind, std::string_view suffix) {
+    texts_.SetUnit(kind, english ? suffix : std::string_view());
+  };
+  texts_.SetLanguage(english ? 1 : 0);
+  setUnit(UnitKind::Level, " m");
+  setUnit(UnitKind::Speed, " kmh");
+  setUnit(UnitKind::Distance, " km");
+  setUnit(UnitKind::Pressure, " inHg");
+  setUnit(UnitKind::Temperature, " °F");
+}
+
+MeteoDecode FuzzDecoder::MakeDecoder() {
+  return MeteoDecode({.ApplicationPath = folder_.Path(),
+                      .MaxMessages = 200,
+                      .RewriteFiles = false,
+                      .KeepWrongLines = false},
+                     context_, database_, prompt_, clock_, progress_);
 }
 
 void FuzzDecoder::DecodeFile(std::string bytes) {
-  MeteoDecode decoder({.ApplicationPath = {}, .MaxMessages = 200, .KeepWrongLines = false},
-                      context_, database_, prompt_, clock_, progress_);
+  ChooseTexts(bytes.size());
+  MeteoDecode decoder = MakeDecoder();
   decoder.DecodeBytes("fuzz", std::move(bytes));
 }
 
 void FuzzDecoder::DecodeTyped(std::string_view text) {
-  MeteoDecode decoder({.ApplicationPath = {}, .MaxMessages = 200, .KeepWrongLines = false},
-                      context_, database_, prompt_, clock_, progress_);
+  ChooseTexts(text.size());
+  MeteoDecode decoder = MakeDecoder();
   decoder.DecodeLine(NormaliseTypedMessage(text));
 }
 
@@ -54,4 +80,4 @@ FuzzDecoder& SharedFuzzDecoder() {
   return decoder;
 }
 
-}  // namespace zg
+}  // namespace zg::fuzz

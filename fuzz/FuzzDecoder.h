@@ -1,38 +1,17 @@
-// A decoder for fuzz targets: everything in memory, nothing on the disk, nothing shown.
+// A decoder for fuzz targets, with nobody to tell anything.
 #pragma once
 
 #include <string>
+#include <string_view>
 
+#include "FuzzFolder.h"
 #include "decode/MeteoDecode.h"
+#include "shell/NullPlatform.h"
 
-namespace zg {
+namespace zg::fuzz {
 
-class NullLog : public LogList {
- protected:
-  void Write(std::string_view) override {}
-};
-
-class NullPrompt : public Prompt {
- public:
-  void Show(Icon, std::string_view) override {}
-};
-
-class NullClock : public Clock {
- public:
-  std::int64_t TickCount() override { return ++ticks_; }
-
- private:
-  std::int64_t ticks_ = 0;
-};
-
-class NullProgress : public Progress {
- public:
-  void Begin(std::int64_t) override {}
-  void Advance(std::int64_t) override {}
-  void Yield() override {}
-};
-
-// Writes each record as JSON and drops it, so that every text of it is read.
+// Writes each record as JSON, so that every text of it is read, and dies if that is not JSON in
+// UTF-8.
 class JsonObserver : public DecodeObserver {
  public:
   bool WantsAccepted() const override { return true; }
@@ -45,27 +24,39 @@ class JsonObserver : public DecodeObserver {
 
 class FuzzDecoder {
  public:
-  // The filters are open. Stations stand in a directory of a few.
+  // The filters are open; the stations are those of the golden bulletins.
   FuzzDecoder();
 
+  // Both tell the records in English with every unit converted, or, where the length of the input
+  // is odd, in Italian with the units of the message.
   void DecodeFile(std::string bytes);
   void DecodeTyped(std::string_view text);
 
  private:
-  NullLog log_;
-  NullPrompt prompt_;
-  NullClock clock_;
-  NullProgress progress_;
+  void ChooseTexts(std::size_t length);
+  void ImportStations(const char* list);
+  MeteoDecode MakeDecoder();
+
+  FuzzFolder folder_;
+  test::NullLog log_;
+  test::NullPrompt prompt_;
+  test::NullClock clock_;
+  test::NullProgress progress_;
   JsonObserver observer_;
-  DBUtility database_;
+  DBUtility database_{prompt_};
   StationDirectory stations_;
   TextUtility texts_;
-  ConversionUtility conversion_;
+  ConversionUtility conversion_{texts_};
   MessageStores stores_;
-  DecodeContext context_;
+  DecodeContext context_{.Stations = stations_,
+                         .Units = {texts_, conversion_},
+                         .Filters = {},
+                         .Stores = stores_,
+                         .Log = log_,
+                         .Observer = observer_};
 };
 
 // One decoder for all inputs of a target.
 FuzzDecoder& SharedFuzzDecoder();
 
-}  // namespace zg
+}  // namespace zg::fuzz

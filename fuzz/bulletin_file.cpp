@@ -2,6 +2,6 @@
 #include "FuzzDecoder.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  zg::SharedFuzzDecoder().DecodeFile(std::string(reinterpret_cast<const char*>(data), size));
+  zg::fuzz::SharedFuzzDecoder().DecodeFile(std::string(reinterpret_cast<const char*>(data), size));
   return 0;
 }
