@@ -14,8 +14,11 @@ import random
 import textwrap
 from pathlib import Path
 
-from zgtools import metar, synop
+from zgtools import metar, synop, weather
 from zgtools.sample_plan import (
+    ANALYSIS,
+    ANALYSIS_CENTRES,
+    ANALYSIS_LINES,
     CYCLE_STATIONS,
     METAR_BULLETINS,
     SEA_BULLETINS,
@@ -23,9 +26,9 @@ from zgtools.sample_plan import (
     TAF_BULLETINS,
 )
 from zgtools.station_lists import read_by_icao, read_by_index
-from zgtools.weather import Weather
 
 DATA_FOLDER = Path(__file__).resolve().parent.parent / "data"
+MONTH = 11
 DAY = 15
 LINE_WIDTH = 69  # characters that a teleprinter line holds
 REPORT_GAP = 4  # hours between a report and the weather that counts as past
@@ -43,7 +46,7 @@ REGION_HOURS = {
 class Composer:
     def __init__(self, seed, folder):
         self._seed = seed
-        self._weather = Weather(seed)
+        self._weather = weather.Weather(seed)
         self._by_icao = read_by_icao(folder)
         self._by_index = read_by_index(folder)
 
@@ -154,6 +157,22 @@ class Composer:
             blocks.append(([f"{heading} {sender} {issue[:4]}00", "TAF"], reports))
         return circuit_file(blocks)
 
+    def fronts_bulletin(self):
+        """A coded frontal analysis, which no "=" ends."""
+        heading, sender, hour = ANALYSIS
+        highs, lows = ["HIGHS"], ["LOWS"]
+        for name, lat, lon, pressure in weather.centres(hour):
+            if name in ANALYSIS_CENTRES:
+                place = f"{lat:02.0f}{-lon:02.0f}"
+                (highs if name.endswith("high") else lows).extend((f"{pressure:.0f}", place))
+        entries = [highs, lows]
+        entries += [[word, *strength.split(), points] for word, strength, points in ANALYSIS_LINES]
+        lines = ["ZCZC 001", f"{heading} {sender} {DAY:02d}{hour + 1:02d}45", "CODSUS",
+                 f"VALID {MONTH:02d}{DAY:02d}{hour:02d}Z"]  # fmt: skip
+        for entry in entries:
+            lines += textwrap.wrap(" ".join(entry), LINE_WIDTH)
+        return [*lines, "NNNN", ""]
+
 
 def circuit_file(blocks):
     """The lines of bulletins: ZCZC, heading lines, reports folded and closed by "=", NNNN."""
@@ -187,10 +206,11 @@ def main():
         ("SYNOP_Land.txt", composer.synop_bulletins()),
         ("SYNOP_Sea.txt", composer.sea_bulletins()),
         ("TAF.txt", composer.taf_bulletins()),
+        ("Fronts.txt", composer.fronts_bulletin()),
     ):
         text = "".join(line + "\r\n" for line in lines)
         (arguments.output / name).write_text(text, encoding="ascii", newline="")
-        print(f"{name}: {text.count('=') or text.count('2003/11/')} reports")
+        print(f"{name}: {len(lines)} lines")
 
 
 if __name__ == "__main__":

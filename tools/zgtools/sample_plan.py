@@ -130,4 +130,35 @@ TAF_BULLETINS = (
     ("FTRS31", "RUMS", "russia", 12, 24, "UUEE ULLI"),
     ("FTAU31", "AMMC", "plain", 12, 24, "YSSY YMML"),
     ("FTUS80", "KWBC", "us", 12, 24, "KJFK KORD KDTW"),
+    ("FCFR31", "LFPW", "icao", 12, 9, "LFPG LFML LFBO"),
+    ("FTSP31", "LEMM", "icao", 12, 24, "LEMD LEBL"),
+    ("FTNO31", "ENMI", "icao", 12, 24, "ENGM ENBR"),
+    ("FTCN31", "CWAO", "canada", 12, 24, "CYUL CYYZ CYVR"),
+    ("FTJP31", "RJTD", "plain", 12, 24, "RJTT RJBB"),
+    ("FTCI31", "BABJ", "mps", 12, 24, "ZBAA ZSSS"),
+    ("FTBZ31", "SBBR", "plain", 12, 24, "SBGR SBGL"),
+    ("FTZA31", "FAPR", "plain", 12, 24, "FAOR FACT"),
+)  # fmt: skip
+
+# The frontal analysis: highs and lows of zgtools/weather.py that it tells, then the lines with their
+# strength and their points, degrees of north latitude and west longitude. The lines of a low begin
+# at its centre or where its occlusion ends.
+ANALYSIS = ("ASUS1", "KWBC", 12)
+ANALYSIS_CENTRES = ("Aleutian low", "Alaska low", "Great Basin high", "Great Lakes low",
+                    "Carolina high", "Labrador high", "Iceland low", "Azores high")  # fmt: skip
+ANALYSIS_LINES = (
+    ("OCFNT", "", "4686 4583 4481"),
+    ("WARM", "WK", "4481 4377 4173 3970"),
+    ("COLD", "MDT", "4481 4183 3886 3590 3294 2998"),
+    ("STNRY", "WK", "2998 27101 25103"),
+    ("TROF", "", "4686 4787 4889 5091"),
+    ("OCFNT", "", "54172 53166 51161"),
+    ("WARM", "", "51161 49156 46152"),
+    ("COLD", "STG", "51161 47163 43167 39172"),
+    ("OCFNT", "WK", "57143 55138"),
+    ("COLD", "WK", "55138 52135 48134 44136 41140"),
+    ("STNRY", "", "54121 51117 48113 45109 42106"),
+    ("TROF", "", "36103 34103 32102"),
+    ("OCFNT", "", "6134 5830 5527"),
+    ("COLD", "MDT", "5527 5128 4732 4338 4046"),
 )  # fmt: skip

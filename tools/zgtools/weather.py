@@ -177,6 +177,13 @@ def sea_pressure(lat, lon, hour):
     return _curve(_ZONAL_PRESSURE, lat) + tide + anomaly(lat, lon, hour)
 
 
+def centres(hour):
+    """Name, latitude, longitude and pressure in hPa of each high and low."""
+    for name, at, on, _, _, north, east in _SYSTEMS:
+        lat, lon = at + north * (hour - 12), on + east * (hour - 12)
+        yield name, lat, lon, sea_pressure(lat, lon, hour)
+
+
 def _free_wind(lat, lon, hour):
     """Wind from the pressure gradient, east and north component in metres a second."""
     step = 1.0
