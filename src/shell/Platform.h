@@ -37,7 +37,7 @@ class LogList {
 // A message box. The call returns when the user has closed it.
 class Prompt {
  public:
-  enum class Icon { None, Critical };
+  enum class Icon { None, Information, Critical };
 
   Prompt() = default;
   Prompt(const Prompt&) = delete;
