@@ -30,6 +30,8 @@ PACKAGES = (
     Package("npm", "@squawk/airport-data", "0.8.0", "MIT, from public-domain sources"),
     Package("npm", "world-atlas", "2.0.2", "ISC, from public-domain sources"),
     Package("npm", "us-atlas", "3.0.1", "ISC, from public-domain sources"),
+    Package("debian", "libmagics++-data", "4.13.0-1", "Apache-2.0; the vectors public domain"),
+    Package("debian", "marble-qt-data", "4:22.12.3-1", "relief and ice: public domain"),
 )
 
 
@@ -81,3 +83,23 @@ class WorkFolder:
     @property
     def us_state_polygons(self):
         return self._file("us-atlas", "states-10m.json")
+
+    def vectors(self, name):
+        """A shapefile of Natural Earth 1:10 million; its .shx and .dbf files lie beside it."""
+        return self._file("libmagics++-data", f"usr/share/magics/10m/{name}.shp")
+
+    @property
+    def relief_tiles(self):
+        """Folder of the relief of the world: grey tiles "row/row_column.jpg"."""
+        return self._file("marble-qt-data", "usr/share/marble/data/maps/earth/srtm/3")
+
+    @property
+    def glaciers(self):
+        return self._marble_polygons("ne_50m_glaciated_areas")
+
+    @property
+    def ice_shelves(self):
+        return self._marble_polygons("ne_50m_antarctic_ice_shelves_polys")
+
+    def _marble_polygons(self, name):
+        return self._file("marble-qt-data", f"usr/share/marble/data/naturalearth/{name}.pn2")
