@@ -3,9 +3,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "batch/Console.h"
+#include "batch/CsvOutput.h"
 #include "batch/OutputStream.h"
 #include "batch/RecordJson.h"
 #include "batch/Summary.h"
@@ -21,7 +23,7 @@ namespace {
 
 constexpr std::string_view StandardInput = "-";
 
-// Writes each record as it is stored, or counts it.
+// Writes each record as it is stored, or counts it. A table is written behind its run.
 class RecordOutput : public DecodeObserver {
  public:
   RecordOutput(OutputStream& output, const Options& options) noexcept
@@ -40,6 +42,7 @@ class RecordOutput : public DecodeObserver {
       summary_.Add(data.Station);
       return;
     }
+    if (options_.Format == OutputFormat::Csv) return;
     AppendRecord(output_.Buffer(), options_.Fields, raw, data);
     output_.FlushIfFull();
   }
@@ -166,10 +169,18 @@ int RunBatch(const Options& options) {
       .output = records};
   bool allRead = true;
   bool fronts = false;
-  for (const std::string& file : options.Files) allRead = run.Decode(file, fronts) && allRead;
+  std::optional<CsvOutput> csv;
+  if (options.Format == OutputFormat::Csv && !options.Summary) {
+    csv.emplace(parameters, texts, stores);
+  }
+  for (const std::string& file : options.Files) {
+    if (csv) csv->BeginRun();
+    allRead = run.Decode(file, fronts) && allRead;
+    if (csv) csv->EndRun(out);
+  }
   if (options.Summary) {
     out.Buffer() += records.Summary().Text();
-  } else if (fronts) {
+  } else if (fronts && !csv) {
     AppendFronts(database, out.Buffer());
   }
   if (!out.Finish()) {

@@ -9,13 +9,13 @@ namespace {
 constexpr std::string_view UsageText =
     R"(Usage: zgdecode [options] FILE...
 
-Decodes WMO bulletins (SYNOP, METAR, SPECI, TAF) into JSON Lines on standard output.
+Decodes WMO bulletins (SYNOP, METAR, SPECI, TAF) into JSON Lines or CSV on standard output.
 A FILE named - is standard input. What happens on the way goes to standard error.
 
   --app DIR        application directory: settings, station database, station lists
                    (default: the one that the desktop program uses)
-  --format FORMAT  jsonl (default); csv comes with a later version
-  --fields FIELDS  data: texts as shown (default); raw: numbers as decoded; both
+  --format FORMAT  jsonl (default); csv: the table that the desktop program exports
+  --fields FIELDS  of jsonl: data: texts as shown (default); raw: numbers as decoded; both
   --message        each FILE holds one message as typed by hand
   --output FILE    write there instead of standard output
   --summary        print a short summary of what was decoded instead of the records
@@ -48,6 +48,33 @@ bool SetFlag(Options& options, std::string_view name) {
   return false;
 }
 
+// A word that an option takes for its value.
+template <typename T>
+struct Choice {
+  std::string_view word;
+  T meaning;
+};
+constexpr std::array<Choice<RecordFields>, 3> FieldsChoices = {{
+    {"data", RecordFields::Data},
+    {"raw", RecordFields::Raw},
+    {"both", RecordFields::Both},
+}};
+constexpr std::array<Choice<OutputFormat>, 2> FormatChoices = {{
+    {"jsonl", OutputFormat::JsonLines},
+    {"csv", OutputFormat::Csv},
+}};
+
+template <typename T, std::size_t N>
+void SetChoice(Options& options, const std::array<Choice<T>, N>& choices, T Options::*field,
+               std::string_view value, std::string_view otherwise) {
+  for (const Choice<T>& choice : choices) {
+    if (choice.word != value) continue;
+    options.*field = choice.meaning;
+    return;
+  }
+  options.Error = std::string(otherwise).append(value);
+}
+
 // Takes an option with a value. False if there is no such option.
 bool SetValue(Options& options, std::string_view name, std::string_view value) {
   if (name == "--app") {
@@ -55,21 +82,10 @@ bool SetValue(Options& options, std::string_view name, std::string_view value) {
   } else if (name == "--output") {
     options.Output = value;
   } else if (name == "--fields") {
-    if (value == "data") {
-      options.Fields = RecordFields::Data;
-    } else if (value == "raw") {
-      options.Fields = RecordFields::Raw;
-    } else if (value == "both") {
-      options.Fields = RecordFields::Both;
-    } else {
-      options.Error = "--fields takes data, raw or both, not " + std::string(value);
-    }
+    SetChoice(options, FieldsChoices, &Options::Fields, value,
+              "--fields takes data, raw or both, not ");
   } else if (name == "--format") {
-    if (value == "csv") {
-      options.Error = "--format csv is not there yet";
-    } else if (value != "jsonl") {
-      options.Error = "--format takes jsonl or csv, not " + std::string(value);
-    }
+    SetChoice(options, FormatChoices, &Options::Format, value, "--format takes jsonl or csv, not ");
   } else {
     return false;
   }

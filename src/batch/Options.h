@@ -11,9 +11,12 @@
 
 namespace zg {
 
+enum class OutputFormat : std::uint8_t { JsonLines, Csv };
+
 struct Options {
   std::string ApplicationDirectory;  // empty: the one that the desktop program uses
   std::string Output;                // empty: standard output
+  OutputFormat Format = OutputFormat::JsonLines;
   RecordFields Fields = RecordFields::Data;
   bool Message = false;   // each file holds one typed message
   bool Progress = false;  // show progress even if standard error is no terminal

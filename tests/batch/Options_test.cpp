@@ -14,6 +14,7 @@ TEST(Options, Defaults) {
   EXPECT_EQ(options.Files, Files{"a.txt"});
   EXPECT_EQ(options.ApplicationDirectory, "");
   EXPECT_EQ(options.Output, "");
+  EXPECT_EQ(options.Format, OutputFormat::JsonLines);
   EXPECT_EQ(options.Fields, RecordFields::Data);
   EXPECT_FALSE(options.Message || options.Progress || options.Summary || options.Help ||
                options.Version);
@@ -70,6 +71,25 @@ TEST(Options, Values) {
   }
 }
 
+TEST(Options, Formats) {
+  struct Row {
+    Arguments arguments;
+    OutputFormat format;
+  };
+  const Row rows[] = {
+      {{"--format", "jsonl", "x"}, OutputFormat::JsonLines},
+      {{"--format", "csv", "x"}, OutputFormat::Csv},
+      {{"--format=csv", "x"}, OutputFormat::Csv},
+      {{"--format", "csv", "--format", "jsonl", "x"}, OutputFormat::JsonLines},
+      {{"x", "--format", "csv", "--fields", "raw"}, OutputFormat::Csv},
+  };
+  for (const Row& row : rows) {
+    const Options options = ParseOptions(row.arguments);
+    EXPECT_EQ(options.Error, "");
+    EXPECT_EQ(options.Format, row.format);
+  }
+}
+
 TEST(Options, Files) {
   struct Row {
     Arguments arguments;
@@ -110,6 +130,7 @@ TEST(Options, Errors) {
       {{"--fields", "", "x"}, "--fields"},
       {{"--fields", "RAW", "x"}, "RAW"},
       {{"--format", "xml", "x"}, "xml"},
+      {{"--format", "CSV", "x"}, "CSV"},
   };
   for (const Row& row : rows) {
     const Options options = ParseOptions(row.arguments);
