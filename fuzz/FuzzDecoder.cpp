@@ -34,20 +34,20 @@ FuzzDecoder::FuzzDecoder() {
   folder_.OpenDatabase(database_);
   ImportStations(ZG_SOURCE_DIR "/tests/golden/app/wmo_index.txt");
   ImportStations(ZG_SOURCE_DIR "/tests/golden/app/icao_index.txt");
-  if (!stations_.Load(database_) || stations_.Size() == 0) Die("no stations");
+  if (!parts_.Stations.Load(database_) || parts_.Stations.Size() == 0) Die("no stations");
 }
 
 void FuzzDecoder::ImportStations(const char* list) {
-  const StationImport import = ImportStationList(list, database_, log_, progress_);
+  const StationImport import = ImportStationList(list, database_, parts_.Log, progress_);
   if (import.Outcome != StationImport::Result::Done) Die(import.Message);
 }
 
 void FuzzDecoder::ChooseTexts(std::size_t length) {
   const bool english = length % 2 == 0;
   const auto setUnit = [this, english](UnitKind kind, std::string_view suffix) {
-    texts_.SetUnit(kind, english ? suffix : std::string_view());
+    parts_.Texts.SetUnit(kind, english ? suffix : std::string_view());
   };
-  texts_.SetLanguage(english ? 1 : 0);
+  parts_.Texts.SetLanguage(english ? 1 : 0);
   setUnit(UnitKind::Level, " m");
   setUnit(UnitKind::Speed, " kmh");
   setUnit(UnitKind::Distance, " km");
@@ -60,7 +60,7 @@ MeteoDecode FuzzDecoder::MakeDecoder() {
                       .MaxMessages = 200,
                       .RewriteFiles = false,
                       .KeepWrongLines = false},
-                     context_, database_, prompt_, clock_, progress_);
+                     parts_.Context, database_, prompt_, clock_, progress_);
 }
 
 void FuzzDecoder::DecodeFile(std::string bytes) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "FuzzFolder.h"
+#include "decode/DecodeParts.h"
 #include "decode/MeteoDecode.h"
 #include "shell/NullPlatform.h"
 
@@ -38,22 +39,11 @@ class FuzzDecoder {
   MeteoDecode MakeDecoder();
 
   FuzzFolder folder_;
-  test::NullLog log_;
   test::NullPrompt prompt_;
   test::NullClock clock_;
   test::NullProgress progress_;
-  JsonObserver observer_;
   DBUtility database_{prompt_};
-  StationDirectory stations_;
-  TextUtility texts_;
-  ConversionUtility conversion_{texts_};
-  MessageStores stores_;
-  DecodeContext context_{.Stations = stations_,
-                         .Units = {texts_, conversion_},
-                         .Filters = {},
-                         .Stores = stores_,
-                         .Log = log_,
-                         .Observer = observer_};
+  test::DecodeParts<test::NullLog, JsonObserver> parts_;
 };
 
 // One decoder for all inputs of a target.

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "decode/DecodeContext.h"
+#include "decode/DecodeParts.h"
 #include "decode/MeteoDecode.h"
 #include "stations/TestDatabase.h"
 
@@ -101,24 +101,12 @@ struct RecordingObserver : DecodeObserver {
 
 // Set Settings, Filters, language and units ahead of the first decoding; the decoder is made there
 // and lives as long as the fixture.
-struct DecodeFixture {
+struct DecodeFixture : DecodeParts<RecordingLog, RecordingObserver> {
   TemporaryFolder Folder;  // the application directory
   RecordingPrompt Boxes;
-  RecordingLog Log;
   RecordingProgress Progress;
-  RecordingObserver Observer;
   StepClock Ticks;
-  TextUtility Texts;
-  ConversionUtility Conversion{Texts};
   DBUtility Database{Boxes};
-  StationDirectory Stations;
-  MessageStores Stores;
-  DecodeContext Context{.Stations = Stations,
-                        .Units = {Texts, Conversion},
-                        .Filters = {},
-                        .Stores = Stores,
-                        .Log = Log,
-                        .Observer = Observer};
   MeteoDecodeSettings Settings{.ApplicationPath = Folder.Path()};
 
   DecodeFixture() {

@@ -6,61 +6,20 @@
 #include <string>
 #include <string_view>
 
+#include "tables/ReportTextCases.h"
+
 namespace zg {
 namespace {
 
-constexpr const char* NoUnit = "";
+using test::DenverStation;
+using test::NoUnit;
+using Stored = test::StoredRecord<MetarRawData, MetarData, StoreMetarRecord>;
+constexpr auto ExpectValues = test::ExpectValues<Stored>;
 
-// A record in the language and units given, from a working record that `set` fills.
-struct Stored {
-  explicit Stored(const MetarRawData& raw) : data(Make(raw, 1, UnitKind::Level, NoUnit)) {}
-  Stored(const MetarRawData& raw, std::uint8_t language, UnitKind kind, const char* unit)
-      : data(Make(raw, language, kind, unit)) {}
-
-  const MetarData& Make(const MetarRawData& raw, std::uint8_t language, UnitKind kind,
-                        const char* unit) {
-    texts.SetLanguage(language);
-    texts.SetUnit(kind, unit);
-    return StoreMetarRecord(raw, -1, {texts, conversion}, store);
-  }
-
-  TextUtility texts;
-  ConversionUtility conversion{texts};
-  MessageStore<MetarData> store;
-  const MetarData& data;
-};
-
-using Raw = MetarRawData;
-using Data = MetarData;
-
-struct ValueCase {
-  const char* name;
-  void (*set)(Raw&);
-  std::string_view (*get)(const Data&);
-  UnitKind kind;
-  const char* unit;
-  const char* english;
-  const char* italian = nullptr;  // none: as in English
-};
-
-void ExpectValues(const std::vector<ValueCase>& cases) {
-  for (const ValueCase& row : cases) {
-    MetarRawData raw;
-    row.set(raw);
-    const std::string_view english = row.english;
-    const std::string_view italian = row.italian == nullptr ? row.english : row.italian;
-    EXPECT_EQ(row.get(Stored(raw, 1, row.kind, row.unit).data), english) << row.name;
-    EXPECT_EQ(row.get(Stored(raw, 0, row.kind, row.unit).data), italian) << row.name;
-  }
-}
-
-void Flag(Raw& raw, unsigned position) {
+void Flag(MetarRawData& raw, unsigned position) {
   raw.FilterFlags =
       static_cast<std::int32_t>(static_cast<unsigned>(raw.FilterFlags) | (1U << position));
 }
-
-#define ZG_SET(statements) [](Raw& r) { statements; }
-#define ZG_GET(field) [](const Data& d) -> std::string_view { return d.field; }
 
 TEST(MetarReportText, Temperatures) {
   constexpr auto kind = UnitKind::Temperature;
@@ -483,20 +442,7 @@ TEST(MetarReportText, Head) {
   MetarRawData raw;
   raw.RawText = "METAR KDEN 151250Z=";
   raw.FilterFlags = 1 << 5 | 1;
-  raw.Station = {.WMOIndex = 72565,
-                 .State = "CO",
-                 .Station = "Denver",
-                 .Country = "United States",
-                 .IcaoName = "KDEN",
-                 .LatPosition = 398.3333f,
-                 .LongPosition = -1046.6666f,
-                 .StationHT = "1656",
-                 .SensorHT = "1657",
-                 .Quadrant = 7,
-                 .MsgId = "SAUS31",
-                 .Type = "METAR",
-                 .Sender = "KWBC",
-                 .AddedInfo = "RRA"};
+  raw.Station = DenverStation();
   const Stored stored(raw);
   const MetarData& record = stored.data;
   EXPECT_EQ(record.RawText, "METAR KDEN 151250Z=");

@@ -7,56 +7,17 @@
 #include <string_view>
 #include <vector>
 
+#include "tables/ReportTextCases.h"
+
 namespace zg {
 namespace {
 
-constexpr const char* NoUnit = "";
-
-// A record in the language and with the unit given.
-struct Stored {
-  explicit Stored(const SynopRawData& raw) : data(Make(raw, 1, UnitKind::Level, NoUnit)) {}
-  Stored(const SynopRawData& raw, std::uint8_t language, UnitKind kind, const char* unit)
-      : data(Make(raw, language, kind, unit)) {}
-
-  const SynopData& Make(const SynopRawData& raw, std::uint8_t language, UnitKind kind,
-                        const char* unit) {
-    texts.SetLanguage(language);
-    texts.SetUnit(kind, unit);
-    return StoreSynopRecord(raw, -1, {texts, conversion}, store);
-  }
-
-  TextUtility texts;
-  ConversionUtility conversion{texts};
-  MessageStore<SynopData> store;
-  const SynopData& data;
-};
-
-using Raw = SynopRawData;
-using Data = SynopData;
-
-struct ValueCase {
-  const char* name;
-  void (*set)(Raw&);
-  std::string_view (*get)(const Data&);
-  UnitKind kind;
-  const char* unit;
-  const char* english;
-  const char* italian = nullptr;  // none: as in English
-};
-
-void ExpectValues(const std::vector<ValueCase>& cases) {
-  for (const ValueCase& row : cases) {
-    SynopRawData raw;
-    row.set(raw);
-    const std::string_view english = row.english;
-    const std::string_view italian = row.italian == nullptr ? row.english : row.italian;
-    EXPECT_EQ(row.get(Stored(raw, 1, row.kind, row.unit).data), english) << row.name;
-    EXPECT_EQ(row.get(Stored(raw, 0, row.kind, row.unit).data), italian) << row.name;
-  }
-}
-
-#define ZG_SET(statements) [](Raw& r) { statements; }
-#define ZG_GET(field) [](const Data& d) -> std::string_view { return d.field; }
+using test::DenverStation;
+using test::NoUnit;
+using Stored = test::StoredRecord<SynopRawData, SynopData, StoreSynopRecord>;
+using Raw = Stored::Raw;
+using Data = Stored::Data;
+constexpr auto ExpectValues = test::ExpectValues<Stored>;
 
 TEST(SynopReportText, Times) {
   constexpr auto kind = UnitKind::Level;
@@ -424,20 +385,8 @@ TEST(SynopReportText, Head) {
   SynopRawData raw;
   raw.Msg = "AAXX 12001 16242=";
   raw.FilterFlags = 1 << 4;
-  raw.Station = {.WMOIndex = 72565,
-                 .State = "CO",
-                 .Station = "Denver",
-                 .Country = "United States",
-                 .IcaoName = "KDEN",
-                 .LatPosition = 398.3333f,
-                 .LongPosition = -1046.6666f,
-                 .StationHT = "1656",
-                 .SensorHT = "",
-                 .Quadrant = 7,
-                 .MsgId = "SMUS01",
-                 .Type = "AAXX",
-                 .Sender = "KWBC",
-                 .AddedInfo = "RRA"};
+  raw.Station = DenverStation();
+  raw.Station.Type = "AAXX";
   const Stored stored(raw);
   EXPECT_EQ(stored.data.Msg, "AAXX 12001 16242=");
   EXPECT_EQ(stored.data.FilterFlags, 16);

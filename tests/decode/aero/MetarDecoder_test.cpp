@@ -1,42 +1,27 @@
 #include "decode/aero/MetarDecoder.h"
 
-#include "decode/DecodeFixture.h"
+#include "decode/DecoderBench.h"
 #include "decode/aero/MetarTestSupport.h"
 
 namespace zg {
 namespace {
 
-using test::BitsText;
-using test::DecodeFixture;
+using test::DecoderBench;
 using test::Describe;
-using test::SplitWords;
 using test::WordsDecoder;
 
 // The decoder between the words of a message and the store.
-struct MetarBench : DecodeFixture {
+struct MetarBench : DecoderBench {
   MetarBench() {
-    Observer.OnMetar = [this](const MetarRawData& raw) {
-      Fields = Describe(raw);
-      Flags = BitsText(static_cast<std::uint32_t>(raw.FilterFlags));
-    };
+    Observer.OnMetar = [this](const MetarRawData& raw) { Keep(Describe(raw), raw.FilterFlags); };
   }
 
   // `headerEnd` is the index of the station; words without heading have the station in front, or
   // type words ahead of it.
   DecodeOutcome Decode(MessageType type, std::string_view text, std::size_t headerEnd,
                        bool heading = true, bool single = false) {
-    Log.Lines.clear();
-    Observer.Messages.clear();
-    Observer.Removed.clear();
-    Fields = Flags = "";
-    BulletinMessage message;
-    message.Type = type;
-    message.Text = text;
-    message.WordList = SplitWords(text);
-    message.HasHeading = heading;
+    BulletinMessage message = Begin(type, text, heading, single);
     message.HeaderEnd = headerEnd;
-    message.LineCount = 7;
-    message.SingleMessage = single;
     return decoder.DecodeMetarMessage(message, static_cast<int>(Metars().size()));
   }
   DecodeOutcome DecodeTypedReport(std::string_view text, MessageType type = MessageType::METAR) {
@@ -44,8 +29,6 @@ struct MetarBench : DecodeFixture {
   }
   const MetarData& Last() const { return Metars().back(); }
 
-  std::string Fields;
-  std::string Flags;
   MetarDecoder decoder{Context};
 };
 

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "decode/FieldLine.h"
+#include "decode/TypedDecoder.h"
 #include "decode/aero/MetarDecoder.h"
-#include "shell/TestSupport.h"
 
 namespace zg::test {
 
@@ -97,6 +97,11 @@ inline std::string Describe(const MetarRawData& raw) {
   return line.Take();
 }
 
+struct MetarKeeper : DecodeObserver {
+  std::string Fields;
+  void MetarStored(const MetarRawData& raw, const MetarData&) override { Fields = Describe(raw); }
+};
+
 // Decodes typed reports of a station that no list has.
 class WordsDecoder {
  public:
@@ -108,39 +113,12 @@ class WordsDecoder {
   }
   // The same for a text that begins with the station.
   std::string DecodeText(MessageType type, std::string_view text) {
-    log_.Lines.clear();
-    observer_.Fields = "not stored";
-    BulletinMessage message;
-    message.Type = type;
-    message.Text = text;
-    message.WordList = SplitWords(text);
-    message.HasHeading = false;
-    message.LineCount = 7;
-    message.SingleMessage = true;
-    decoder_.DecodeMetarMessage(message, 0);
-    return observer_.Fields;
+    return decoder_.Decode(type, text);
   }
-  std::string Wrong() const { return WrongItems(log_.Lines); }
+  std::string Wrong() const { return decoder_.Wrong(); }
 
  private:
-  struct Keeper : DecodeObserver {
-    std::string Fields;
-    void MetarStored(const MetarRawData& raw, const MetarData&) override { Fields = Describe(raw); }
-  };
-
-  RecordingLog log_;
-  Keeper observer_;
-  StationDirectory stations_;
-  TextUtility texts_;
-  ConversionUtility conversion_{texts_};
-  MessageStores stores_;
-  DecodeContext context_{.Stations = stations_,
-                         .Units = {texts_, conversion_},
-                         .Filters = {},
-                         .Stores = stores_,
-                         .Log = log_,
-                         .Observer = observer_};
-  MetarDecoder decoder_{context_};
+  TypedDecoder<MetarDecoder, &MetarDecoder::DecodeMetarMessage, MetarKeeper> decoder_;
 };
 
 // Words of a report and all that they set; `wrong` are the words logged as wrong items. One decoder

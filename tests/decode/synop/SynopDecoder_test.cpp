@@ -1,49 +1,35 @@
 #include "decode/synop/SynopDecoder.h"
 
-#include "decode/DecodeFixture.h"
+#include "decode/DecoderBench.h"
 #include "decode/synop/SynopTestSupport.h"
 
 namespace zg {
 namespace {
 
 using test::BitsText;
-using test::DecodeFixture;
+using test::DecoderBench;
 using test::Describe;
-using test::SplitWords;
 
 using Lines = std::vector<std::string>;
 constexpr auto AAXX = MessageType::AAXX;
 constexpr auto BBXX = MessageType::BBXX;
 
 // The decoder between the words of a message and the store.
-struct SynopBench : DecodeFixture {
+struct SynopBench : DecoderBench {
   SynopBench() {
     Observer.OnSynop = [this](const SynopRawData& raw) {
-      Fields = Describe(raw);
-      Flags = BitsText(static_cast<std::uint32_t>(raw.FilterFlags));
+      Keep(Describe(raw), raw.FilterFlags);
       WindUnitInd = raw.WindUnitInd;
     };
   }
 
   DecodeOutcome Decode(MessageType type, std::string_view text, bool heading = true,
                        bool single = false) {
-    Log.Lines.clear();
-    Observer.Messages.clear();
-    Observer.Removed.clear();
-    Fields = Flags = "";
-    BulletinMessage message;
-    message.Type = type;
-    message.Text = text;
-    message.WordList = SplitWords(text);
-    message.HasHeading = heading;
-    message.LineCount = 7;
-    message.SingleMessage = single;
-    return decoder.DecodeSynopMessage(message, static_cast<int>(Synops().size()));
+    return decoder.DecodeSynopMessage(Begin(type, text, heading, single),
+                                      static_cast<int>(Synops().size()));
   }
   const SynopData& Last() const { return Synops().back(); }
 
-  std::string Fields;
-  std::string Flags;
   int WindUnitInd = -1;
   SynopDecoder decoder{Context};
 };

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "decode/FieldLine.h"
+#include "decode/TypedDecoder.h"
 #include "decode/synop/SynopDecoder.h"
-#include "shell/TestSupport.h"
 
 namespace zg::test {
 
@@ -93,45 +93,22 @@ inline std::string Describe(const SynopRawData& raw) {
   return line.Take();
 }
 
+struct SynopKeeper : DecodeObserver {
+  std::string Fields;
+  void SynopStored(const SynopRawData& raw, const SynopData&) override { Fields = Describe(raw); }
+};
+
 // Decodes typed reports of a ship.
 class ShipDecoder {
  public:
   // The fields that `words` set behind the position of the ship.
   std::string Decode(std::string_view words) {
-    log_.Lines.clear();
-    observer_.Fields = "not stored";
-    const std::string text = "BBXX DBBH 12001 99423 10123 " + std::string(words);
-    BulletinMessage message;
-    message.Type = MessageType::BBXX;
-    message.Text = text;
-    message.WordList = SplitWords(text);
-    message.HasHeading = false;
-    message.LineCount = 7;
-    message.SingleMessage = true;
-    decoder_.DecodeSynopMessage(message, 0);
-    return observer_.Fields;
+    return decoder_.Decode(MessageType::BBXX, "BBXX DBBH 12001 99423 10123 " + std::string(words));
   }
-  std::string Wrong() const { return WrongItems(log_.Lines); }
+  std::string Wrong() const { return decoder_.Wrong(); }
 
  private:
-  struct Keeper : DecodeObserver {
-    std::string Fields;
-    void SynopStored(const SynopRawData& raw, const SynopData&) override { Fields = Describe(raw); }
-  };
-
-  RecordingLog log_;
-  Keeper observer_;
-  StationDirectory stations_;
-  TextUtility texts_;
-  ConversionUtility conversion_{texts_};
-  MessageStores stores_;
-  DecodeContext context_{.Stations = stations_,
-                         .Units = {texts_, conversion_},
-                         .Filters = {},
-                         .Stores = stores_,
-                         .Log = log_,
-                         .Observer = observer_};
-  SynopDecoder decoder_{context_};
+  TypedDecoder<SynopDecoder, &SynopDecoder::DecodeSynopMessage, SynopKeeper> decoder_;
 };
 
 // Groups and all that they set; `wrong` are the words logged as wrong items.
