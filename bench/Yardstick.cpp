@@ -11,7 +11,7 @@ constexpr char UpperCase(char c) noexcept {
 
 }  // namespace
 
-Yardstick::Count Yardstick::CountWords(std::string_view bytes) {
+Yardstick::Count Yardstick::SplitLines(std::string_view bytes) {
   Count count;
   while (!bytes.empty()) {
     const std::size_t end = std::min(bytes.find('\n'), bytes.size());
@@ -21,14 +21,14 @@ Yardstick::Count Yardstick::CountWords(std::string_view bytes) {
     line_ = line;
     std::transform(line_.begin(), line_.end(), line_.begin(), UpperCase);
     line = line_;
-    ++count.Lines;
+    words_.clear();
     for (std::size_t at = line.find_first_not_of(' '); at != std::string_view::npos;
          at = line.find_first_not_of(' ', at)) {
-      const std::string_view word = line.substr(at, line.find(' ', at) - at);
-      ++count.Words;
-      count.Letters += word.size();
-      at += word.size();
+      words_.push_back(line.substr(at, line.find(' ', at) - at));
+      at += words_.back().size();
     }
+    ++count.Lines;
+    count.Words += words_.size();
   }
   return count;
 }

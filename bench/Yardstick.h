@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zg::bench {
 
@@ -12,15 +13,16 @@ class Yardstick {
   struct Count {
     std::size_t Lines = 0;
     std::size_t Words = 0;
-    std::size_t Letters = 0;  // in all words
   };
 
-  // Goes through a file line by line: copies each line in upper case into one buffer and cuts it
-  // into words at its blanks. Takes no memory once the buffer has the length of the longest line.
-  Count CountWords(std::string_view bytes);
+  // Goes through a file line by line: copies each line in upper case into one buffer and splits it
+  // at its blanks into a list of its words, which holds until the next line. Takes no memory once
+  // the buffer and the list have the length of the longest line.
+  Count SplitLines(std::string_view bytes);
 
  private:
   std::string line_;
+  std::vector<std::string_view> words_;
 };
 
 }  // namespace zg::bench

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <concepts>
 #include <string>
 #include <string_view>
@@ -42,8 +43,10 @@ class JsonWriter {
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
     out_.append(buffer.data(), end.ptr);
   }
-  // The shortest form that reads back to the same 32-bit float.
+  // The shortest form that reads back to the same 32-bit float; null for what JSON cannot say,
+  // infinity and no number.
   void Number(float value) {
+    if (!std::isfinite(value)) return Null();
     Separate();
     std::array<char, 64> buffer;
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);

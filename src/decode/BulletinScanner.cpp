@@ -32,15 +32,16 @@ bool IsSynop(MessageType type) noexcept {
   return type == MessageType::AAXX || type == MessageType::BBXX;
 }
 
-MessageType SynopTypeOfWord(std::string_view word) noexcept {
-  if (word.size() != 4) return MessageType::Unknown;
-  if (word == "AAXX") return MessageType::AAXX;
-  return word == "BBXX" ? MessageType::BBXX : MessageType::Unknown;
+std::string_view FirstWord(std::string_view text) noexcept {
+  while (text.starts_with(' ')) text.remove_prefix(1);
+  return text.substr(0, FindBlank(text, 0));
 }
 
-std::string_view FirstWord(std::string_view text) noexcept {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  return text.substr(0, text.find(' '));
+// AAXX or BBXX where the first word is that; else Unknown.
+MessageType SynopTypeOf(std::string_view text) noexcept {
+  const std::string_view word = FirstWord(text);
+  if (word == "AAXX") return MessageType::AAXX;
+  return word == "BBXX" ? MessageType::BBXX : MessageType::Unknown;
 }
 
 // The type words of a line that holds AAXX or BBXX, as positions: AAXX with its YYGGiw, or BBXX.
@@ -132,11 +133,11 @@ BulletinScanner::Step BulletinScanner::TakeIdleLine(std::string_view line, bool 
     return Step::GoOn;
   }
   const bool mayBeTypeLine = !HasBulletinHeading() && (headerText_.empty() || messageText_.empty());
-  if (mayBeTypeLine && SynopTypeOfWord(FirstWord(line)) != MessageType::Unknown) {
+  if (mayBeTypeLine && SynopTypeOf(line) != MessageType::Unknown) {
     if (!messageText_.empty()) Print(messageText_);  // it belongs to no report
     messageText_.clear();
     headerText_.clear();
-    messageType_ = SynopTypeOfWord(FirstWord(line));
+    messageType_ = SynopTypeOf(line);
     TakeTypeLine(line);
     return Step::GoOn;
   }
@@ -224,7 +225,10 @@ void BulletinScanner::ForgetTypeLine() {
 // Hands the complete message on. True if a record was stored.
 bool BulletinScanner::CloseReport() {
   std::string unknown;
-  if (messageType_ == MessageType::Unknown) unknown = headerText_ + messageText_;
+  // Where the station was found ahead of time the heading stands in front already.
+  if (messageType_ == MessageType::Unknown) {
+    unknown = startFound_ ? messageText_ : headerText_ + messageText_;
+  }
   const bool found = startFound_ || FindStart();
   bool stored = false;
   if (messageType_ == MessageType::Unknown) {
@@ -256,8 +260,7 @@ bool BulletinScanner::FindStart() {
 // end what an AAXX or BBXX line has begun.
 void BulletinScanner::AdoptTypeWord() {
   if (!IsSynop(messageType_)) return;
-  const std::string_view word = FirstWord(messageText_);
-  const MessageType type = SynopTypeOfWord(word);
+  const MessageType type = SynopTypeOf(messageText_);
   if (type != MessageType::Unknown) {
     messageType_ = type;
     const std::size_t end = FindTypeWords(messageText_).end;
@@ -265,8 +268,10 @@ void BulletinScanner::AdoptTypeWord() {
     headerText_.resize(typeLine_);
     headerText_.append(messageText_, 0, end).append(" ");
     messageText_.erase(0, std::min(messageText_.find_first_not_of(' ', end), messageText_.size()));
-  } else if (!HasBulletinHeading() && ReportTypeOfWord(word) != MessageType::Unknown) {
-    messageType_ = ReportTypeOfWord(word);
+  } else if (!HasBulletinHeading()) {
+    const MessageType report = ReportTypeOfWord(FirstWord(messageText_));
+    if (report == MessageType::Unknown) return;
+    messageType_ = report;
     headerText_.clear();
   }
 }
@@ -318,7 +323,7 @@ bool BulletinScanner::SplitAndDispatch() {
   for (std::size_t at = 0; at < text.size(); ++at) {
     if (text[at] == ' ') continue;
     const std::size_t start = at;
-    while (at < text.size() && text[at] != ' ') ++at;
+    at = FindBlank(text, at);
     if (start < start_.Position) ++message_.HeaderEnd;
     message_.WordList.push_back(text.substr(start, at - start));
   }

@@ -26,6 +26,9 @@ class LineReader {
   // The next line without its line end. False when there is none; then `line` is empty.
   bool Next(std::string_view& line) noexcept;
 
+  // What follows the line that was read last, its line end in front left out.
+  std::string_view Ahead() const noexcept { return bytes_.substr(position_); }
+
   // Bytes read so far.
   std::size_t Position() const noexcept { return position_; }
 

@@ -89,17 +89,23 @@ inline void Publish(const DecodeContext& context, const StationBlock& station,
 // What a decoder needs while it works on one message.
 class MessageScratch {
  public:
-  void Clear() noexcept { arena_.Clear(); }
+  // Forgets the message before and takes up this one; returns it as Text does.
+  std::string_view Begin(std::string_view message) {
+    arena_.Clear();
+    ascii_ = IsAscii(message);
+    return Text(message);
+  }
 
-  // A word of the bulletin as a text of a record: the same view where it is ASCII, else a copy in
-  // UTF-8 that is valid until Clear.
+  // A word of the message as a text of a record: the same view where it is ASCII, else a copy in
+  // UTF-8 that is valid until Begin.
   std::string_view Text(std::string_view word) {
-    return IsAscii(word) ? word : arena_.CopyWindows1252(word);
+    return ascii_ || IsAscii(word) ? word : arena_.CopyWindows1252(word);
   }
   std::string_view Copy(std::string_view text) { return arena_.Copy(text); }
 
  private:
   TextArena arena_;
+  bool ascii_ = false;  // the whole message is
 };
 
 // Logs a text in the language in force, with the number of the line behind it.

@@ -34,6 +34,16 @@ constexpr std::array<TypeName, 5> HeadingTypes = {{
     {MessageType::SIGMET, "WS"},
 }};
 
+// The mark is looked for in every line, and so by its rarest letter.
+bool HoldsFrontsMark(std::string_view line) noexcept {
+  constexpr std::size_t rare = FrontsMark.find('U');
+  for (std::size_t at = line.find('U', rare); at != std::string_view::npos;
+       at = line.find('U', at + 1)) {
+    if (line.substr(at - rare).starts_with(FrontsMark)) return true;
+  }
+  return false;
+}
+
 bool IsAtMost(std::string_view digits, int highest) noexcept { return Value(digits) <= highest; }
 
 // A walk over the words of a text, with their positions.
@@ -47,7 +57,7 @@ Word WordFrom(std::string_view text, std::size_t at) noexcept {
   while (at < text.size() && text[at] == ' ') ++at;
   Word word;
   word.start = std::min(at, text.size());
-  while (at < text.size() && text[at] != ' ') ++at;
+  at = FindBlank(text, word.start);
   word.text = text.substr(word.start, at - word.start);
   word.followedByBlank = at < text.size();
   return word;
@@ -129,11 +139,11 @@ bool IsWmoHeading(std::string_view line) noexcept {
       !line.starts_with("PROB")) {
     return true;
   }
-  return Holds(line, FrontsMark);
+  return HoldsFrontsMark(line);
 }
 
 MessageType ClassifyHeading(std::string_view line) noexcept {
-  if (Holds(line, FrontsMark)) return MessageType::FRONTS;
+  if (HoldsFrontsMark(line)) return MessageType::FRONTS;
   if (Holds(line, "AAXX")) return MessageType::AAXX;
   if (Holds(line, "BBXX")) return MessageType::BBXX;
   if (!IsWmoHeading(line)) return MessageType::Unknown;

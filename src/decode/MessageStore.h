@@ -46,6 +46,11 @@ class StationTextCache {
     return known;
   }
 
+  // Has what Get reads brought near.
+  void Expect(std::size_t row) const noexcept {
+    if (row < known_.size()) PrefetchForReading(&known_[row]);
+  }
+
   std::size_t Capacity() const noexcept {
     return arena_.Capacity() + known_.capacity() * sizeof(void*);
   }

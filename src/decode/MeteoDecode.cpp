@@ -7,6 +7,8 @@
 
 #include "decode/BulletinText.h"
 #include "shell/FileText.h"
+#include "text/MemoryHints.h"
+#include "text/TextRules.h"
 #include "text/Windows1252.h"
 
 namespace zg {
@@ -17,6 +19,19 @@ constexpr int LinesBetweenYields = 10;
 std::string_view NameOfPath(std::string_view path) noexcept {
   const std::size_t separator = path.find_last_of("/\\");
   return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+// The first word of a line, or of the one behind a time stamp: the station if a report begins
+// there. Empty where it cannot be one.
+std::string_view StationWord(std::string_view line) noexcept {
+  constexpr std::size_t shortestReport = 20;
+  constexpr std::string_view timeStamp = "2003/11/15 12:00\n";
+  if (line.size() > timeStamp.size() && line[4] == '/' && line[7] == '/') {
+    line.remove_prefix(timeStamp.size());
+  }
+  if (line.size() < shortestReport) return {};
+  const std::string_view word = line.substr(0, FindBlank(line.substr(0, shortestReport), 0));
+  return word.size() == 4 || word.size() == 5 ? word : std::string_view{};
 }
 
 }  // namespace
@@ -119,6 +134,8 @@ void MeteoDecode::ReadLines(std::string_view bytes, bool repaired) {
   LineReader reader(bytes, repaired);
   std::string_view line;
   for (int counter = 1; reader.Next(line); ++counter) {
+    ExpectStation(line);
+    context_.Stations.ExpectWord(StationWord(reader.Ahead()));
     upperLine_ = line;
     UpperCaseWindows1252(upperLine_);
     scanner_.ScanLine(upperLine_);
@@ -131,6 +148,21 @@ void MeteoDecode::ReadLines(std::string_view bytes, bool repaired) {
   LogSpeed(position, std::max<std::int64_t>(clock_.TickCount() - start, 1));
   if (!stopRequested_) progress_.Advance(summary_.Bytes);
   stopRequested_ = false;
+}
+
+// Has brought near what will be read of the station if the line begins a report: where its row is
+// was fetched while the line before was read.
+void MeteoDecode::ExpectStation(std::string_view line) const noexcept {
+  const StationRow* row = context_.Stations.FindByWord(StationWord(line));
+  if (row == nullptr) return;
+  PrefetchForReading(row, sizeof(StationRow));
+  // Its number without reading it: it is not there yet.
+  const auto number = static_cast<std::size_t>(row - context_.Stations.Rows().data());
+  if (storeFamily_ == Family::Synop) {
+    context_.Stores.SynopStore.Texts().Stations.Expect(number);
+  } else {
+    context_.Stores.MetarStore.Texts().Stations.Expect(number);
+  }
 }
 
 void MeteoDecode::LogSpeed(std::int64_t position, std::int64_t milliseconds) {

@@ -79,6 +79,7 @@ class MeteoDecode : private ScannerClient {
   bool ClaimStore(Family family);
   void CountStored();
   void StoreFronts(const BulletinMessage& message);
+  void ExpectStation(std::string_view line) const noexcept;
   void ReadLines(std::string_view bytes, bool repaired);
   void LogSpeed(std::int64_t position, std::int64_t milliseconds);
   void OpenWrongFile(std::string_view name);

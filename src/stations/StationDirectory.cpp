@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 #include <functional>
 #include <string>
 #include <unordered_map>
 
 #include "maps/LatLongUtility.h"
+#include "text/MemoryHints.h"
 #include "text/TextRules.h"
 #include "text/Windows1252.h"
 
@@ -30,7 +30,7 @@ std::uint64_t KeyOf(std::int64_t number) noexcept { return static_cast<std::uint
 std::uint64_t KeyOf(std::string_view name) noexcept {
   if (name.size() > ShortName) return std::hash<std::string_view>()(name);
   std::uint64_t key = 0;
-  std::memcpy(&key, name.data(), name.size());
+  for (char c : name) key = key << 8U | static_cast<unsigned char>(c);
   return key << 8U | name.size();
 }
 
@@ -228,8 +228,22 @@ const StationRow* StationDirectory::FindByWMOIndex(std::string_view word) const 
 // Names with the quote that a query puts around them find nothing: ' in look-ups by indicator and
 // for indicators, " in the others.
 const StationRow* StationDirectory::FindByIcaoName(std::string_view IcaoName) const noexcept {
-  if (Holds(IcaoName, "'")) return nullptr;
+  if (Holds(IcaoName, '\'')) return nullptr;
   return FindByName(byIcaoName_, &StationRow::IcaoName, IcaoName);
+}
+
+const StationRow* StationDirectory::FindByWord(std::string_view word) const noexcept {
+  std::uint32_t number = 0;
+  return ReadFigures(word, number) ? FindByNumber(number) : FindByIcaoName(word);
+}
+
+void StationDirectory::ExpectWord(std::string_view word) const noexcept {
+  std::uint32_t number = 0;
+  const bool isNumber = ReadFigures(word, number);
+  const Slots& slots = isNumber ? byWMOIndex_ : byIcaoName_;
+  if (word.empty() || slots.empty()) return;
+  const std::uint64_t key = isNumber ? KeyOf(std::int64_t{number}) : KeyOf(word);
+  PrefetchForReading(&slots[HashKey(key) & (slots.size() - 1)]);
 }
 
 std::string_view StationDirectory::GetCountryByStation(std::string_view Station) const noexcept {

@@ -57,6 +57,11 @@ class StationDirectory {
   // The row of an ICAO location indicator; null if there is none.
   const StationRow* FindByIcaoName(std::string_view IcaoName) const noexcept;
 
+  // The row of a word that is the one or the other: figures are a WMO index.
+  const StationRow* FindByWord(std::string_view word) const noexcept;
+  // Has the place brought near where a look-up of this word will look.
+  void ExpectWord(std::string_view word) const noexcept;
+
   // Country of a place name; of a ship or buoy, whose list name ends in "]", by its call sign.
   std::string_view GetCountryByStation(std::string_view Station) const noexcept;
   // The row with name, position and quadrant of a station; null if there is none.

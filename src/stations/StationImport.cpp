@@ -134,8 +134,8 @@ bool TakeField(const FieldRule& rule, std::string_view value, StationLine& stati
       station.*rule.text = value;
       return true;
     case FieldKind::Height:
-      if (const auto height = StrictNumber(Trim(value))) {
-        station.*rule.height = static_cast<float>(*height);
+      if (const auto metres = StrictNumber(Trim(value))) {
+        station.*rule.height = ToSingle(*metres).value_or(station.*rule.height);
       }
       return true;
     case FieldKind::Latitude:

@@ -17,7 +17,11 @@ inline void PrefetchForWriting(const void* memory, std::size_t size) noexcept {
   for (std::size_t done = 0; done < size; done += CacheLine) __builtin_prefetch(at + done, 1);
 }
 
-inline void PrefetchForReading(const void* memory) noexcept { __builtin_prefetch(memory, 0); }
+// The same to be read.
+inline void PrefetchForReading(const void* memory, std::size_t size = 1) noexcept {
+  const char* at = static_cast<const char*>(memory);
+  for (std::size_t done = 0; done < size; done += CacheLine) __builtin_prefetch(at + done, 0);
+}
 
 // Asks for large pages: a walk through many megabytes then needs few entries of the page table.
 inline void AdviseLargePages(void* memory, std::size_t size) noexcept {

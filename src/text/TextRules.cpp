@@ -183,22 +183,17 @@ std::string WriteDecimal(double value, int digits) {
 
 }  // namespace
 
-bool IsNumeric(std::string_view text) noexcept {
-  if (IsDigits(text)) return true;
+bool IsSignedOrPointed(std::string_view text) noexcept {
   const std::size_t length = NumberLength(text);
   return length > 0 && length == text.size();
 }
 
-std::optional<double> StrictNumber(std::string_view text) noexcept {
-  std::uint32_t whole = 0;
-  if (ReadFigures(text, whole)) return whole;
+std::optional<double> StrictSignedOrPointed(std::string_view text) noexcept {
   if (!IsNumeric(text)) return std::nullopt;
   return ParseMeasured(text);
 }
 
-double Value(std::string_view text) noexcept {
-  std::uint32_t whole = 0;
-  if (ReadFigures(text, whole)) return whole;
+double ValueOfBeginning(std::string_view text) noexcept {
   const std::size_t length = NumberLength(text);
   return length == 0 ? 0.0 : ParseMeasured(text.substr(0, length));
 }

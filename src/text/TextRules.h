@@ -7,8 +7,10 @@
 // looks at a locale.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <optional>
 #include <string>
@@ -73,32 +75,30 @@ constexpr bool IsSolidi(std::string_view text) noexcept {
   return !text.empty();
 }
 
+// Where the next blank stands, `at` or behind it; the length of the text if there is none. Eight
+// characters at a time: every word of every bulletin is cut here.
+inline std::size_t FindBlank(std::string_view text, std::size_t at) noexcept {
+  if constexpr (std::endian::native == std::endian::little) {
+    constexpr std::uint64_t ones = 0x0101010101010101U;
+    for (; at + sizeof(std::uint64_t) <= text.size(); at += sizeof(std::uint64_t)) {
+      std::uint64_t eight = 0;
+      std::memcpy(&eight, text.data() + at, sizeof eight);
+      eight ^= ones * ' ';  // a blank is a zero byte now
+      const std::uint64_t blanks = (eight - ones) & ~eight & (ones << 7U);
+      if (blanks != 0) return at + static_cast<std::size_t>(std::countr_zero(blanks)) / 8;
+    }
+  }
+  while (at < text.size() && text[at] != ' ') ++at;
+  return at;
+}
+
 // --- Reading numbers ---------------------------------------------------------------------------
 
-// True if the whole text is a number: an optional sign, digits with at most one point, at least one
-// digit. No exponent, no comma, no blank.
-bool IsNumeric(std::string_view text) noexcept;
-
-// Strict conversion: the number that the whole text is, or nothing.
-std::optional<double> StrictNumber(std::string_view text) noexcept;
-
-// Lenient conversion: the number at the beginning of the text; reading stops at the first character
-// that cannot continue it. 0 if the text does not begin with a number. The text before the first
-// digit may hold a sign and a point; no blank is passed over.
-double Value(std::string_view text) noexcept;
-
-// Rounds to the nearest whole number, halves to the even one.
-double RoundHalfEven(double value) noexcept;
-
-// The value as an integer of type T, rounded halves to even; nothing when it is out of T's range.
-template <typename T>
-std::optional<T> ToInteger(double value) noexcept {
-  const double rounded = RoundHalfEven(value);
-  if (!(rounded >= static_cast<double>(std::numeric_limits<T>::min()) &&
-        rounded <= static_cast<double>(std::numeric_limits<T>::max()))) {
-    return std::nullopt;
-  }
-  return static_cast<T>(rounded);
+// The value as a 32-bit float; nothing when it is out of the range of one.
+inline std::optional<float> ToSingle(double value) noexcept {
+  constexpr double Largest = std::numeric_limits<float>::max();
+  if (!(value >= -Largest && value <= Largest)) return std::nullopt;
+  return static_cast<float>(value);
 }
 
 // Reads a text of one to nine figures and nothing else, as nearly every number of a bulletin is.
@@ -115,6 +115,46 @@ constexpr bool ReadFigures(std::string_view text, std::uint32_t& whole) noexcept
   return true;
 }
 
+// The same three readings for texts that are more than figures, behind the short ways below.
+bool IsSignedOrPointed(std::string_view text) noexcept;
+std::optional<double> StrictSignedOrPointed(std::string_view text) noexcept;
+double ValueOfBeginning(std::string_view text) noexcept;
+
+// True if the whole text is a number: an optional sign, digits with at most one point, at least one
+// digit. No exponent, no comma, no blank.
+inline bool IsNumeric(std::string_view text) noexcept {
+  return IsDigits(text) || IsSignedOrPointed(text);
+}
+
+// Strict conversion: the number that the whole text is, or nothing.
+inline std::optional<double> StrictNumber(std::string_view text) noexcept {
+  std::uint32_t whole = 0;
+  if (ReadFigures(text, whole)) return whole;
+  return StrictSignedOrPointed(text);
+}
+
+// Lenient conversion: the number at the beginning of the text; reading stops at the first character
+// that cannot continue it. 0 if the text does not begin with a number. The text before the first
+// digit may hold a sign and a point; no blank is passed over.
+inline double Value(std::string_view text) noexcept {
+  std::uint32_t whole = 0;
+  return ReadFigures(text, whole) ? whole : ValueOfBeginning(text);
+}
+
+// Rounds to the nearest whole number, halves to the even one.
+double RoundHalfEven(double value) noexcept;
+
+// The value as an integer of type T, rounded halves to even; nothing when it is out of T's range.
+template <typename T>
+std::optional<T> ToInteger(double value) noexcept {
+  const double rounded = RoundHalfEven(value);
+  if (!(rounded >= static_cast<double>(std::numeric_limits<T>::min()) &&
+        rounded <= static_cast<double>(std::numeric_limits<T>::max()))) {
+    return std::nullopt;
+  }
+  return static_cast<T>(rounded);
+}
+
 // Strict conversion into an integer of type T: "1.5" rounds to 2, "256" is nothing for 8 bits.
 template <typename T>
 std::optional<T> StrictInteger(std::string_view text) noexcept {
@@ -124,6 +164,20 @@ std::optional<T> StrictInteger(std::string_view text) noexcept {
   }
   const std::optional<double> number = StrictNumber(text);
   return number ? ToInteger<T>(*number) : std::nullopt;
+}
+
+// Lenient conversion into an integer of type T of the number times `Factor` and divided by
+// `Divisor`, rounded halves to even; nothing when that is out of T's range.
+template <typename T, std::uint32_t Factor = 1, std::uint32_t Divisor = 1>
+std::optional<T> LenientInteger(std::string_view text) noexcept {
+  std::uint32_t figures = 0;
+  if (!ReadFigures(text, figures)) return ToInteger<T>(ValueOfBeginning(text) * Factor / Divisor);
+  const std::uint64_t product = std::uint64_t{figures} * Factor;
+  if (product % Divisor != 0) return ToInteger<T>(static_cast<double>(product) / Divisor);
+  if (product / Divisor > static_cast<std::uint64_t>(std::numeric_limits<T>::max())) {
+    return std::nullopt;
+  }
+  return static_cast<T>(product / Divisor);
 }
 
 // --- Writing numbers ---------------------------------------------------------------------------

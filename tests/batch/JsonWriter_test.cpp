@@ -54,6 +54,8 @@ TEST(JsonWriter, Floats) {
       {122.333336f, "122.333336"},
       {16777216.0f, "16777216"},
       {std::numeric_limits<float>::lowest(), "-3.4028235e+38"},
+      {std::numeric_limits<float>::infinity(), "null"},
+      {std::numeric_limits<float>::quiet_NaN(), "null"},
   };
   for (const Row& row : rows) {
     std::string out;

@@ -7,7 +7,6 @@
 #include "decode/aero/MetarWalk.h"
 #include "shell/GenericUtility.h"
 #include "tables/MetarReportText.h"
-#include "text/MemoryHints.h"
 
 namespace zg {
 namespace {
@@ -29,12 +28,10 @@ unsigned TypeFlag(MessageType type) noexcept {
 }  // namespace
 
 DecodeOutcome MetarDecoder::DecodeMetarMessage(const BulletinMessage& message, int decodedCount) {
+  raw_.RawText = scratch_.Begin(message.Text);
   ResetMetarRecord(raw_);
-  scratch_.Clear();
-  raw_.RawText = scratch_.Text(message.Text);
   DecodeHeading(message);
   const StationRow* row = context_.Stations.FindByIcaoName(raw_.Station.Station);
-  if (row != nullptr) PrefetchForReading(row);
   if (!FindTime(message)) {
     LogAtLine(context_, "Observ. Time o Valid Time non trovato. - Linea: ",
               "Observ. Time or Valid Time not found. - Line: ", message.LineCount);

@@ -99,7 +99,7 @@ Verdict TryWholeMiles(MetarWalk& walk, std::string_view word) {
 
 Verdict TryKilometres(MetarWalk& walk, std::string_view word) {
   Set(walk, MetarFlag::VisibilityMetres);
-  return TakenIf(SetLenient(walk.Section().OrizVisibility, word.substr(0, word.size() - 2), 1000));
+  return TakenIf(SetLenient<1000>(walk.Section().OrizVisibility, word.substr(0, word.size() - 2)));
 }
 
 // VVVVVSM: whole miles, a fraction, or both written together (11/2SM); P6SM above, M1/4SM below.
@@ -179,12 +179,12 @@ Verdict TryWind(MetarWalk& walk, std::string_view word) {
   const auto part = [&](std::size_t start, std::size_t count) {
     return start < unit ? Mid(word, start, count) : std::string_view{};
   };
-  Set(walk, Holds(word, "KT")    ? MetarFlag::WindKt
-            : Holds(word, "KMH") ? MetarFlag::WindKmh
-                                 : MetarFlag::WindMps);
-  if (Holds(word, "VRB")) {
+  Set(walk, word.ends_with("KT") || Holds(word, "KT") ? MetarFlag::WindKt
+            : Holds(word, "KMH")                      ? MetarFlag::WindKmh
+                                                      : MetarFlag::WindMps);
+  if (Holds(word, 'V') && Holds(word, "VRB")) {
     Set(walk, MetarFlag::WindVariable);
-  } else if (!SetLenient(section.WindDir, part(1, 3), 1, 10)) {
+  } else if (!SetLenient<1, 10>(section.WindDir, part(1, 3))) {
     return Verdict::Wrong;
   }
   if (!SetStrict(section.WindSpeed, part(4, 2))) return Verdict::Wrong;
@@ -223,11 +223,10 @@ Verdict TryWindShear(MetarWalk& walk, std::string_view word) {
 
 // QPHPHPHPH in hectopascals or APHPHPHPH in hundredths of an inch.
 Verdict TryAltimeter(MetarWalk& walk, std::string_view word) {
-  const std::string setting = Without(word, '.');
-  if (setting.size() != 5 || !IsNumeric(std::string_view(setting).substr(1))) {
-    return Verdict::Declined;
-  }
-  return TakenIf(SetStrict(walk.Section().AltimeterPressure, std::string_view(setting).substr(1)));
+  if (Holds(word, '.')) return TryAltimeter(walk, Without(word, '.'));
+  const std::string_view setting = word.substr(1);
+  if (setting.size() != 4 || !IsNumeric(setting)) return Verdict::Declined;
+  return TakenIf(SetStrict(walk.Section().AltimeterPressure, setting));
 }
 
 Verdict TryQnh(MetarWalk& walk, std::string_view word) {
@@ -259,23 +258,44 @@ Verdict TryForecastTemperature(MetarWalk& walk, std::string_view before, std::st
   return TakenIf(SetStrict(walk.Raw.ForecastTemperatureHour[index], behind));
 }
 
+// Degrees, strictly, with M or "-" for minus.
+std::optional<double> ReadDegrees(std::string_view part) noexcept {
+  if (!part.starts_with('M')) return StrictNumber(part);
+  part.remove_prefix(1);
+  if (part.starts_with('+') || part.starts_with('-')) return std::nullopt;
+  const std::optional<double> number = StrictNumber(part);
+  if (!number) return std::nullopt;
+  return -*number;
+}
+
+// Puts degrees into a field, unless there are none. False if the field cannot hold the number.
+bool SetDegrees(float& field, std::optional<double> degrees) noexcept {
+  if (!degrees) return true;
+  const std::optional<float> value = ToSingle(*degrees + 0.0);  // no minus ahead of a zero
+  if (value) field = *value;
+  return value.has_value();
+}
+
 // T'T'/T'dT'd in whole degrees, M for minus; with a T the form of a forecast.
 Verdict TryTemperature(MetarWalk& walk, std::string_view word) {
   const bool runway = word.size() > 1 && word[0] == 'R' && IsDigit(word[1]);
   if (Holds(word, "SM") || runway || HasCloudCover(word)) return Verdict::Declined;
   const bool forecast = Holds(word, 'T');
-  std::string group(word);
-  if (forecast) std::erase_if(group, [](char c) { return c == 'T' || c == 'Z'; });
-  std::replace(group.begin(), group.end(), 'M', '-');
-  const std::size_t solidus = group.find('/');
-  const std::string_view before = std::string_view(group).substr(0, solidus);
-  const std::string_view behind = std::string_view(group).substr(solidus + 1);
-  if (forecast) return TryForecastTemperature(walk, before, behind);
-  const std::optional<double> temperature = StrictNumber(before);
-  const std::optional<double> dewpoint = StrictNumber(behind);
-  if (temperature) walk.Raw.Temperature = static_cast<float>(*temperature + 0.0);
-  if (dewpoint) walk.Raw.Dewpoint = static_cast<float>(*dewpoint + 0.0);
-  return temperature || dewpoint ? Verdict::Taken : Verdict::Declined;
+  if (forecast) {
+    std::string group(word);
+    std::erase_if(group, [](char c) { return c == 'T' || c == 'Z'; });
+    std::replace(group.begin(), group.end(), 'M', '-');
+    const std::size_t solidus = group.find('/');
+    return TryForecastTemperature(walk, std::string_view(group).substr(0, solidus),
+                                  std::string_view(group).substr(solidus + 1));
+  }
+  std::size_t solidus = 0;
+  while (word[solidus] != '/') ++solidus;
+  const std::optional<double> temperature = ReadDegrees(word.substr(0, solidus));
+  const std::optional<double> dewpoint = ReadDegrees(word.substr(solidus + 1));
+  if (!temperature && !dewpoint) return Verdict::Declined;
+  return TakenIf(SetDegrees(walk.Raw.Temperature, temperature) &&
+                 SetDegrees(walk.Raw.Dewpoint, dewpoint));
 }
 
 // --- Clouds ------------------------------------------------------------------------------------
@@ -458,43 +478,45 @@ Verdict TryLateTime(MetarWalk& walk, std::string_view word) {
 // The order of tests. Where two groups look alike the one that stands first has the word.
 using namespace WordFeature;
 constexpr std::array<Recogniser, 36> Table = {{
-    // name, symbolic form, first characters, features, outside remarks only, recogniser
-    {"Message type", "TAF", "T", None, false, TryTypeWord},
-    {"Automatic station", "AUTO", "A", None, false, TryFlag<FlagWord::Auto>},
-    {"Ceiling and visibility OK", "CAVOK", "C", None, false, TryFlag<FlagWord::Cavok>},
-    {"No significant change", "NOSIG", "N", None, false, TryFlag<FlagWord::Nosig>},
-    {"No significant weather", "NSW", "N", None, false, TryFlag<FlagWord::Nsw>},
-    {"No significant cloud", "NSC", "N", None, false, TryFlag<FlagWord::Nsc>},
-    {"Visibility of 10 km or more", "9999", "9", None, false, TryTenKilometres},
-    {"Whole miles of visibility", "V", "0123456789", None, false, TryWholeMiles},
-    {"Visibility in kilometres", "VVKM", "", Kilometres, false, TryKilometres},
-    {"Time behind which it holds", "AFT GGgg", "A", None, false, TryAfter},
-    {"Wind in free words", "WND dddffKT", "W", None, false, TryWindRemark},
-    {"Surface wind", "dddffGfmfm", "", WindUnit, true, TryWind},
-    {"Altimeter setting", "QPHPHPHPH, APHPHPHPH", "AQ", None, false, TryAltimeter},
-    {"Temperature and dew point", "T'T'/T'dT'd, TTFTF/GFGFZ", "", Solidus, true, TryTemperature},
-    {"Gradual change", "BECMG GGGeGe", "", LetterB, false, TryBecmg},
-    {"Broken cloud", "BKNhshshs", "B", None, false, TryCloud<6>},
-    {"Clear below 12,000 ft", "CLR", "C", None, false, TryFlag<FlagWord::Clr>},
-    {"Few cloud", "FEWhshshs", "F", None, false, TryCloud<1>},
-    {"QNH", "QNHPHPHPHPH", "Q", None, false, TryQnh},
-    {"Change from a time on", "FMGGgg", "F", None, false, TryFrom},
-    {"Overcast", "OVChshshs", "O", None, false, TryCloud<8>},
-    {"Probability", "PROBC2C2 GGGeGe", "", LetterB, false, TryProb},
-    {"Runway visual range", "RDRDR/VRVRVRVR", "R", Solidus, false, TryRunwayVisualRange},
-    {"Remarks", "RMK", "R", None, false, TryRemarks},
-    {"Scattered cloud", "SCThshshs", "S", None, false, TryCloud<3>},
-    {"Sky clear", "SKC", "S", None, false, TryFlag<FlagWord::Skc>},
-    {"Visibility in statute miles", "VVVVVSM", "", Miles, false, TryMiles},
-    {"Temporary change", "TEMPO GGGeGe", "T", None, false, TryTempo},
-    {"Intermittent change", "INTER GGGeGe", "I", None, false, TryInter},
-    {"Vertical visibility", "VVhshshs", "V", None, false, TryVerticalVisibility},
-    {"Wind shear", "WShwshwshws/dddffKT", "W", None, false, TryWindShear},
-    {"Towering cumulus", "TCU", "T", None, true, TryCloudForm<CloudForm::TowerCumulus>},
-    {"Cumulonimbus", "CB", "C", None, true, TryCloudForm<CloudForm::Cumulonimbus>},
-    {"Cumulus", "CU", "C", None, true, TryCloudForm<CloudForm::Cumulus>},
-    {"Time of observation", "YYGGggZ", "", EndsInZ, false, TryLateTime},
-    {"Weather", "w'w'", "+-BDFGHIMPRSTV", None, false, TryWeather},
+    // name, symbolic form, first characters, length, features, outside remarks only, recogniser
+    {"Message type", "TAF", "T", Exactly(3), None, false, TryTypeWord},
+    {"Automatic station", "AUTO", "A", Exactly(4), None, false, TryFlag<FlagWord::Auto>},
+    {"Ceiling and visibility OK", "CAVOK", "C", Exactly(5), None, false, TryFlag<FlagWord::Cavok>},
+    {"No significant change", "NOSIG", "N", Exactly(5), None, false, TryFlag<FlagWord::Nosig>},
+    {"No significant weather", "NSW", "N", Exactly(3), None, false, TryFlag<FlagWord::Nsw>},
+    {"No significant cloud", "NSC", "N", Exactly(3), None, false, TryFlag<FlagWord::Nsc>},
+    {"Visibility of 10 km or more", "9999", "9", Exactly(4), None, false, TryTenKilometres},
+    {"Whole miles of visibility", "V", "0123456789", Exactly(1), None, false, TryWholeMiles},
+    {"Visibility in kilometres", "VVKM", "", AtLeast(2), Kilometres, false, TryKilometres},
+    {"Time behind which it holds", "AFT GGgg", "A", Exactly(3), None, false, TryAfter},
+    {"Wind in free words", "WND dddffKT", "W", Exactly(3), None, false, TryWindRemark},
+    {"Surface wind", "dddffGfmfm", "", AtLeast(2), WindUnit, true, TryWind},
+    {"Altimeter setting", "QPHPHPHPH, APHPHPHPH", "AQ", AtLeast(5), None, false, TryAltimeter},
+    {"Temperature and dew point", "T'T'/T'dT'd, TTFTF/GFGFZ", "", AtLeast(1), Solidus, true,
+     TryTemperature},
+    {"Gradual change", "BECMG GGGeGe", "", AtLeast(5), LetterG, false, TryBecmg},
+    {"Broken cloud", "BKNhshshs", "B", AtLeast(3), None, false, TryCloud<6>},
+    {"Clear below 12,000 ft", "CLR", "C", Exactly(3), None, false, TryFlag<FlagWord::Clr>},
+    {"Few cloud", "FEWhshshs", "F", AtLeast(3), None, false, TryCloud<1>},
+    {"QNH", "QNHPHPHPHPH", "Q", AtLeast(7), None, false, TryQnh},
+    {"Change from a time on", "FMGGgg", "F", AtLeast(4), None, false, TryFrom},
+    {"Overcast", "OVChshshs", "O", AtLeast(3), None, false, TryCloud<8>},
+    {"Probability", "PROBC2C2 GGGeGe", "", AtLeast(4), LetterP, false, TryProb},
+    {"Runway visual range", "RDRDR/VRVRVRVR", "R", AtLeast(2), Solidus, false,
+     TryRunwayVisualRange},
+    {"Remarks", "RMK", "R", Exactly(3), None, false, TryRemarks},
+    {"Scattered cloud", "SCThshshs", "S", AtLeast(3), None, false, TryCloud<3>},
+    {"Sky clear", "SKC", "S", Exactly(3), None, false, TryFlag<FlagWord::Skc>},
+    {"Visibility in statute miles", "VVVVVSM", "", AtLeast(2), Miles, false, TryMiles},
+    {"Temporary change", "TEMPO GGGeGe", "T", Exactly(5), None, false, TryTempo},
+    {"Intermittent change", "INTER GGGeGe", "I", Exactly(5), None, false, TryInter},
+    {"Vertical visibility", "VVhshshs", "V", AtLeast(2), None, false, TryVerticalVisibility},
+    {"Wind shear", "WShwshwshws/dddffKT", "W", AtLeast(2), None, false, TryWindShear},
+    {"Towering cumulus", "TCU", "T", AtLeast(3), None, true, TryCloudForm<CloudForm::TowerCumulus>},
+    {"Cumulonimbus", "CB", "C", AtLeast(2), None, true, TryCloudForm<CloudForm::Cumulonimbus>},
+    {"Cumulus", "CU", "C", AtLeast(2), None, true, TryCloudForm<CloudForm::Cumulus>},
+    {"Time of observation", "YYGGggZ", "", Exactly(7), EndsInZ, false, TryLateTime},
+    {"Weather", "w'w'", "+-BDFGHIMPRSTV", AtLeast(2), None, false, TryWeather},
 }};
 
 }  // namespace

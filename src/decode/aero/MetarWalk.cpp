@@ -4,13 +4,12 @@ namespace zg {
 namespace {
 
 // Offers the word to the entries of a table that may want it, in their order.
-Verdict OfferTo(std::span<const Recogniser> table, const RecogniserIndex& index,
-                std::uint8_t features, MetarWalk& walk) {
+Verdict OfferTo(const RecogniserIndex& index, std::uint8_t features, MetarWalk& walk) {
   std::uint64_t candidates = index.Candidates(walk.Word, features, walk.InRemarks);
   while (candidates != 0) {
     const auto next = static_cast<std::size_t>(std::countr_zero(candidates));
     candidates &= candidates - 1;
-    const Verdict verdict = table[next].Try(walk, walk.Word);
+    const Verdict verdict = index.Table()[next].Try(walk, walk.Word);
     if (verdict != Verdict::Declined) return verdict;
   }
   return Verdict::Declined;
@@ -27,10 +26,10 @@ Verdict OfferWord(MetarWalk& walk) {
     const std::uint8_t features = FeaturesOf(walk.Word);
     Verdict verdict = Verdict::Declined;
     if (walk.Section().SectionType == SectionKind::Remarks) {
-      verdict = OfferTo(RemarkRecognisers(), remarks, features, walk);
+      verdict = OfferTo(remarks, features, walk);
     }
     if (verdict == Verdict::Declined) {
-      verdict = OfferTo(MetarRecognisers(), general, features, walk);
+      verdict = OfferTo(general, features, walk);
     }
     if (verdict != Verdict::Again) return verdict;
   }

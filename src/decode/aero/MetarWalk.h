@@ -1,6 +1,7 @@
 // The walk over the words of a METAR, SPECI or TAF: what its recognisers share.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -72,14 +73,12 @@ bool SetStrict(T& field, std::string_view part) noexcept {
   return value.has_value();
 }
 
-// The number that the part begins with, times `factor` and divided by `divisor`; false only if it
+// The number that the part begins with, times `Factor` and divided by `Divisor`; false only if it
 // is out of range.
-template <typename T>
-bool SetLenient(T& field, std::string_view part, double factor = 1, double divisor = 1) noexcept {
+template <std::uint32_t Factor = 1, std::uint32_t Divisor = 1, typename T>
+bool SetLenient(T& field, std::string_view part) noexcept {
   if (IsNotReported(part)) return true;
-  std::uint32_t figures = 0;
-  const double number = ReadFigures(part, figures) ? figures : Value(part);
-  const std::optional<T> value = ToInteger<T>(number * factor / divisor);
+  const std::optional<T> value = LenientInteger<T, Factor, Divisor>(part);
   if (value) field = *value;
   return value.has_value();
 }
@@ -93,7 +92,7 @@ constexpr bool EndsInWindUnit(std::string_view word) noexcept {
 
 // --- Recognisers -------------------------------------------------------------------------------
 
-// What a word must have to be offered to a recogniser, besides its first character.
+// What a word must have to be offered to a recogniser, besides its first character and its length.
 namespace WordFeature {
 enum : std::uint8_t {
   None = 0,
@@ -101,10 +100,11 @@ enum : std::uint8_t {
   WindUnit = 2,    // ends in KT, KMH or MPS
   Kilometres = 4,  // ends in KM
   Miles = 8,       // ends in SM
-  LetterB = 16,    // holds a B, as PROB and BECMG do
-  EndsInZ = 32,
+  LetterG = 16,    // holds a G, as BECMG does
+  LetterP = 32,    // holds a P, as PROB does
+  EndsInZ = 64,
 };
-inline constexpr std::size_t Combinations = 64;
+inline constexpr std::size_t Combinations = 128;
 }  // namespace WordFeature
 
 // By the last letters, compared one by one: this is done for every word.
@@ -127,14 +127,33 @@ constexpr std::uint8_t FeaturesOfEnding(std::string_view word) noexcept {
   }
 }
 
+// What a character gives to its word wherever it stands.
+inline constexpr auto FeaturesOfCharacter = [] {
+  std::array<std::uint8_t, 256> features{};
+  features['/'] = WordFeature::Solidus;
+  features['G'] = WordFeature::LetterG;
+  features['P'] = WordFeature::LetterP;
+  return features;
+}();
+
 constexpr std::uint8_t FeaturesOf(std::string_view word) noexcept {
   unsigned features = FeaturesOfEnding(word);
-  for (char c : word) {
-    if (c == '/') features |= WordFeature::Solidus;
-    if (c == 'B') features |= WordFeature::LetterB;
-  }
+  for (char c : word) features |= FeaturesOfCharacter[static_cast<unsigned char>(c)];
   return static_cast<std::uint8_t>(features);
 }
+
+// The lengths of the words that a recogniser may take. From `Longest` on they are not told apart.
+struct WordLength {
+  static constexpr std::size_t Longest = 15;
+  std::size_t Least;
+  std::size_t Most;
+
+  constexpr bool Has(std::size_t length) const noexcept {
+    return Least <= length && length <= Most;
+  }
+};
+constexpr WordLength Exactly(std::size_t length) noexcept { return {length, length}; }
+constexpr WordLength AtLeast(std::size_t length) noexcept { return {length, WordLength::Longest}; }
 
 // One entry of a table of recognisers. The tables are ordered: a word goes to the first entry that
 // takes it.
@@ -142,39 +161,49 @@ struct Recogniser {
   std::string_view Name;
   std::string_view Form;   // in the notation of the code forms
   std::string_view First;  // the characters that a word may begin with; empty: any
-  std::uint8_t Needs;      // WordFeature bits that it must have
-  bool OutsideRemarks;     // not offered once RMK was met
+  WordLength Length;
+  std::uint8_t Needs;   // WordFeature bits that it must have
+  bool OutsideRemarks;  // not offered once RMK was met
   Verdict (*Try)(MetarWalk& walk, std::string_view word);
 };
 
-// For each first character and each set of features the entries of a table that want the word, as
-// a bit set in the order of the table: most words are offered to a handful of recognisers only.
+// For each first character, length and set of features the entries of a table that want the word,
+// as a bit set in the order of the table: most words are offered to one or two recognisers only.
 class RecogniserIndex {
  public:
-  constexpr explicit RecogniserIndex(std::span<const Recogniser> table) noexcept {
+  constexpr explicit RecogniserIndex(std::span<const Recogniser> table) noexcept : table_(table) {
     for (std::size_t i = 0; i < table.size(); ++i) {
+      const Recogniser& entry = table[i];
       const std::uint64_t bit = std::uint64_t{1} << i;
       for (std::size_t c = 0; c < byFirst_.size(); ++c) {
-        const bool wanted = table[i].First.empty() ||
-                            table[i].First.find(static_cast<char>(c)) != std::string_view::npos;
+        const bool wanted =
+            entry.First.empty() || entry.First.find(static_cast<char>(c)) != std::string_view::npos;
         if (wanted) byFirst_[c] |= bit;
       }
-      for (std::size_t f = 0; f < byFeatures_.size(); ++f) {
-        if ((table[i].Needs & ~f) == 0) byFeatures_[f] |= bit;
+      for (std::size_t length = 0; length < byLength_.size(); ++length) {
+        if (entry.Length.Has(length)) byLength_[length] |= bit;
       }
-      if (!table[i].OutsideRemarks) inRemarks_ |= bit;
+      for (std::size_t f = 0; f < byFeatures_.size(); ++f) {
+        if ((entry.Needs & ~f) == 0) byFeatures_[f] |= bit;
+      }
+      if (!entry.OutsideRemarks) inRemarks_ |= bit;
     }
   }
 
   constexpr std::uint64_t Candidates(std::string_view word, std::uint8_t features,
                                      bool inRemarks) const noexcept {
-    const std::uint64_t wanted =
-        byFirst_[static_cast<unsigned char>(word.front())] & byFeatures_[features];
+    const std::uint64_t wanted = byFirst_[static_cast<unsigned char>(word.front())] &
+                                 byLength_[std::min(word.size(), WordLength::Longest)] &
+                                 byFeatures_[features];
     return inRemarks ? wanted & inRemarks_ : wanted;
   }
 
+  std::span<const Recogniser> Table() const noexcept { return table_; }
+
  private:
+  std::span<const Recogniser> table_;
   std::array<std::uint64_t, 256> byFirst_{};
+  std::array<std::uint64_t, WordLength::Longest + 1> byLength_{};
   std::array<std::uint64_t, WordFeature::Combinations> byFeatures_{};
   std::uint64_t inRemarks_ = 0;
 };

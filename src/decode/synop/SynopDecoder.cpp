@@ -26,10 +26,9 @@ bool BeginsWithLetter(std::string_view word) noexcept {
 
 DecodeOutcome SynopDecoder::DecodeSynopMessage(const BulletinMessage& message, int decodedCount) {
   ResetSynopRecord(raw_);
-  scratch_.Clear();
   stationRow_ = -1;
   listName_ = {};
-  raw_.Msg = scratch_.Text(message.Text);
+  raw_.Msg = scratch_.Begin(message.Text);
   SynopWalk walk{.Context = context_,
                  .Raw = raw_,
                  .Scratch = scratch_,

@@ -64,7 +64,7 @@ struct SynopWalk {
   template <typename T>
   void SetLenient(T& field, std::size_t start, std::size_t count) const {
     if (AtEnd()) return;
-    if (const auto value = ToInteger<T>(Value(Part(start, count)))) {
+    if (const auto value = LenientInteger<T>(Part(start, count))) {
       field = *value;
     } else {
       WrongItem();

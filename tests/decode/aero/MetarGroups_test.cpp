@@ -162,6 +162,8 @@ TEST(MetarGroups, Temperature) {
       {"neither", "///", ""},
       {"neither, of five", "/////", ""},
       {"neither number", "AB/CD", ""},
+      {"a number that no field holds", "01/M002222222222222222222222222222222222222222222",
+       "; Temperature=1", "01/M002222222222222222222222222222222222222222222"},
   });
 }
 

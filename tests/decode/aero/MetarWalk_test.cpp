@@ -200,7 +200,23 @@ TEST(MetarWalk, IndexAgreesWithTheTable) {
                                        "0",
                                        "=",
                                        "1/0SM",
-                                       "270P9KT"};
+                                       "270P9KT",
+                                       "A29.92",
+                                       "A2.9.9.2.",
+                                       "QNH",
+                                       "FM",
+                                       "FM1Z2Z3",
+                                       "B",
+                                       "TC",
+                                       "+",
+                                       "VC",
+                                       "M05/",
+                                       "KT",
+                                       "SM",
+                                       "PROB",
+                                       "BECMGTEMPOTEMPOTEMPO 1518",
+                                       "SCT0300000000000",
+                                       "+SHRASNGRTSFZDZ"};
   const auto table = MetarRecognisers();
   const RecogniserIndex index(table);
   const auto check = [&](std::string_view words) {
@@ -274,8 +290,16 @@ TEST(MetarWalk, PartsOfAWord) {
   EXPECT_EQ(lenient, 12);
   EXPECT_TRUE(SetLenient(lenient, "X"));
   EXPECT_EQ(lenient, 0);
-  EXPECT_TRUE(SetLenient(lenient, "270", 1, 10));
+  EXPECT_TRUE((SetLenient<1, 10>(lenient, "270")));
   EXPECT_EQ(lenient, 27);
+  EXPECT_TRUE((SetLenient<1, 10>(lenient, "255")));
+  EXPECT_EQ(lenient, 26);
+  EXPECT_TRUE((SetLenient<1, 10>(lenient, "245")));
+  EXPECT_EQ(lenient, 24);
+  EXPECT_TRUE((SetLenient<1000>(lenient, "32")));
+  EXPECT_EQ(lenient, 32000);
+  EXPECT_FALSE((SetLenient<1000>(lenient, "33")));
+  EXPECT_EQ(lenient, 32000);
 }
 
 TEST(MetarWalk, OpenSection) {
