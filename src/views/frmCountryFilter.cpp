@@ -6,59 +6,22 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <utility>
 
 #include "decode/ListUtility.h"
 #include "decode/MessageFilters.h"
 #include "shell/QtPlatform.h"
+#include "views/QtCheckList.h"
 
 namespace zg {
 namespace {
 
 constexpr std::string_view Parameter = "CountryFilter";
 constexpr std::int64_t YieldMilliseconds = 33;
-
-// Shows a selected entry as a check box that is ticked, since a selection of entries that do not
-// stand together reads better so. Highlighted is the one that the keys are at.
-class CheckBoxDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    const QSize size = QStyledItemDelegate::sizeHint(option, index);
-    return {size.width(), size.height() + option.fontMetrics.height() / 3};
-  }
-
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override {
-    QStyledItemDelegate::paint(painter, option, index);
-    // On a dark background the style's own frame can hardly be seen.
-    QStyleOptionViewItem shown(option);
-    initStyleOption(&shown, index);
-    const QRect box = option.widget->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator,
-                                                             &shown, option.widget);
-    QColor ink = option.palette.color(QPalette::Text);
-    ink.setAlphaF(0.45F);
-    painter->setPen(ink);
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(box.adjusted(0, 0, -1, -1));
-  }
-
- protected:
-  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-    QStyledItemDelegate::initStyleOption(option, index);
-    const bool selected = option->state.testFlag(QStyle::State_Selected);
-    option->features |= QStyleOptionViewItem::HasCheckIndicator;
-    option->checkState = selected ? Qt::Checked : Qt::Unchecked;
-    option->state.setFlag(QStyle::State_Selected, option->state.testFlag(QStyle::State_HasFocus));
-  }
-};
 
 // "Select all" is about the entries that the search has left.
 class CountryListWidget : public QListWidget {
@@ -101,7 +64,7 @@ void frmCountryFilter::BuildControls() {
   lblCountries_ = Make(new QLabel(this), "lblCountries");
   lstCountryFilter_ = Make(new CountryListWidget(this), "lstCountryFilter");
   lstCountryFilter_->setSelectionMode(QAbstractItemView::MultiSelection);
-  lstCountryFilter_->setItemDelegate(new CheckBoxDelegate(lstCountryFilter_));
+  lstCountryFilter_->setItemDelegate(new CheckListDelegate(lstCountryFilter_));
   lstCountryFilter_->setUniformItemSizes(true);
   lblCountries_->setBuddy(lstCountryFilter_);
   connect(lstCountryFilter_, &QListWidget::itemSelectionChanged, this,
