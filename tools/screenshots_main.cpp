@@ -25,7 +25,11 @@
 #include "shell/frmInit.h"
 #include "shell/frmLanguage.h"
 #include "shell/frmMain.h"
+#include "tables/frmMetarMeteoData.h"
+#include "tables/frmSynopMeteoData.h"
 #include "views/frmCountryFilter.h"
+#include "views/frmDataFields.h"
+#include "views/frmGlobalView.h"
 #include "views/frmQuadrantFilter.h"
 #include "views/frmStationFilter.h"
 
@@ -97,6 +101,13 @@ Window MakeLineInput(Stage& stage) {
   return window;
 }
 
+template <const zg::GlobalViewTable& Table>
+Window MakeView(Stage& stage) {
+  auto window = std::make_unique<zg::frmGlobalView>(stage.App, stage.Dialogs, Table, nullptr);
+  window->Load();
+  return window;
+}
+
 // A picture is named by its row and the language: "frmInit_eng.png". A window that is not made here
 // is the main window, with a menu open if there is one in the row.
 struct Shot {
@@ -121,6 +132,24 @@ const Shot Shots[] = {
     {"frmCountryFilter", MakeCountryFilter},
     {"frmQuadrantFilter", Make<zg::frmQuadrantFilter>},
     {"frmStationFilter", Make<zg::frmStationFilter>},
+    {"frmSynopGlobalView", MakeView<zg::SynopGlobalView>, nullptr, {1000, 560}},
+    {"frmMetarGlobalView", MakeView<zg::MetarGlobalView>, nullptr, {1000, 560}},
+    {"frmSynopDataFields",
+     [](Stage& stage) -> Window {
+       return std::make_unique<zg::frmDataFields>(stage.App, zg::SynopGlobalView, nullptr);
+     }},
+    {"frmSynopMeteoData",
+     [](Stage& stage) -> Window {
+       auto window = std::make_unique<zg::frmSynopMeteoData>(stage.App, nullptr);
+       window->ShowSynopDataRecord(2);
+       return window;
+     }},
+    {"frmMetarMeteoData",
+     [](Stage& stage) -> Window {
+       auto window = std::make_unique<zg::frmMetarMeteoData>(stage.App, nullptr);
+       window->ShowMetarDataRecord(2);
+       return window;
+     }},
     {"frmBrowser",
      [](Stage& stage) {
        return MakeBrowser(stage, stage.App.Texts.IsItalian() ? "ZGItaHelp.htm" : "ZGEngHelp.htm");

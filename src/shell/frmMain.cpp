@@ -13,15 +13,18 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QUrl>
+#include <ranges>
 
 #include "decode/frmDecode.h"
-#include "shell/ApplicationDecoder.h"
+#include "shell/LineDecoder.h"
 #include "shell/MenuTree.h"
 #include "shell/QtForm.h"
 #include "stations/StationImport.h"
 #include "tables/ReportUnits.h"
-#include "text/TextRules.h"
+#include "tables/frmMetarMeteoData.h"
+#include "tables/frmSynopMeteoData.h"
 #include "views/frmCountryFilter.h"
+#include "views/frmGlobalView.h"
 #include "views/frmQuadrantFilter.h"
 #include "views/frmStationFilter.h"
 
@@ -46,8 +49,12 @@ frmMain::frmMain(Application& app, WindowLog& log, Dialogs& dialogs)
   quadrantFilter_ = std::make_unique<frmQuadrantFilter>(app_, this);
   stationFilter_ = std::make_unique<frmStationFilter>(app_, this);
   decode_ = std::make_unique<frmDecode>(app_, this);
-  connect(decode_.get(), &frmDecode::RunStarted, this, [this] { EnableWork(false); });
+  connect(decode_.get(), &frmDecode::RunStarted, this, [this] {
+    EnableWork(false);
+    StoresWillChange();
+  });
   connect(decode_.get(), &frmDecode::RunEnded, this, [this] {
+    StoresChanged();
     CheckForEnablingMenu();
     EnableWork(true);
   });
@@ -74,15 +81,15 @@ frmMain::~frmMain() = default;
 
 void frmMain::BuildMenus() {
   for (const MenuEntry& entry : MenuTree()) {
-    QMenu* parent = entry.Parent.empty() ? nullptr : Menu(entry.Parent);
     const std::string name(entry.Name);
     if (entry.Kind == MenuKind::Menu) {
-      QMenu* menu = parent == nullptr ? menuBar()->addMenu(ToQString(entry.Caption))
-                                      : parent->addMenu(ToQString(entry.Caption));
+      QMenu* menu = entry.Parent.empty() ? menuBar()->addMenu(ToQString(entry.Caption))
+                                         : Menu(entry.Parent)->addMenu(ToQString(entry.Caption));
       menu->setObjectName(ToQString(name));
       menus_[name] = menu;
       continue;
     }
+    QMenu* parent = Menu(entry.Parent);
     if (entry.Kind == MenuKind::Separator) {
       actions_[name] = parent->addSeparator();
       actions_[name]->setObjectName(ToQString(name));
@@ -143,6 +150,7 @@ void frmMain::BindCommands() {
   Bind("mnuInfo", [this] { Info(); });
   BindUnits();
   BindPictures();
+  BindViews();
   ShowRecent();
   GreyUnbound();
 }
@@ -154,10 +162,9 @@ void frmMain::GreyUnbound() {
     action->setEnabled(bound_.contains(name));
   }
   // From the leaves up: a submenu stands behind its menu in the tree.
-  const auto entries = MenuTree();
-  for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
-    if (entry->Kind != MenuKind::Menu || entry->Name == "mnuRecent") continue;
-    QMenu* menu = Menu(entry->Name);
+  for (const MenuEntry& entry : MenuTree() | std::views::reverse) {
+    if (entry.Kind != MenuKind::Menu || entry.Name == "mnuRecent") continue;
+    QMenu* menu = Menu(entry.Name);
     bool works = false;
     for (const QAction* action : menu->actions()) {
       works = works || (!action->isSeparator() && action->isEnabled());
@@ -178,6 +185,7 @@ void frmMain::EnableMenu(std::string_view name, bool enabled) {
 
 void frmMain::EnableWork(bool enabled) {
   for (const std::string_view name : WorkMenus) EnableMenu(name, enabled);
+  if (openViews_ > 0) EnableMenu("mnuInput", false);
 }
 
 void frmMain::SetPanel(int panel, const QString& text) {

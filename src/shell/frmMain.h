@@ -23,11 +23,15 @@ class QProgressBar;
 
 namespace zg {
 
-class ApplicationDecoder;
+class LineDecoder;
 class frmCountryFilter;
 class frmDecode;
+class frmGlobalView;
+class frmMetarMeteoData;
 class frmQuadrantFilter;
 class frmStationFilter;
+class frmSynopMeteoData;
+struct GlobalViewTable;
 
 class frmMain : public QMainWindow {
   Q_OBJECT
@@ -98,6 +102,14 @@ class frmMain : public QMainWindow {
   void Language();
   void Exit();
 
+  // frmMainViews.cpp: the windows on the records.
+  void BindViews();
+  void ShowSynopReport(int index);
+  void ShowMetarReport(int index);
+  void ShowView(std::unique_ptr<frmGlobalView>& view, const GlobalViewTable& table);
+  void StoresWillChange();
+  void StoresChanged();
+
   Application& app_;
   WindowLog& log_;
   Dialogs& dialogs_;
@@ -113,7 +125,13 @@ class frmMain : public QMainWindow {
   std::unique_ptr<frmQuadrantFilter> quadrantFilter_;
   std::unique_ptr<frmStationFilter> stationFilter_;
   std::unique_ptr<frmDecode> decode_;
-  std::unique_ptr<ApplicationDecoder> lineDecoder_;
+  std::unique_ptr<LineDecoder> lineDecoder_;
+  // Made when they are first wanted.
+  std::unique_ptr<frmSynopMeteoData> synopReport_;
+  std::unique_ptr<frmMetarMeteoData> metarReport_;
+  std::unique_ptr<frmGlobalView> synopView_;
+  std::unique_ptr<frmGlobalView> metarView_;
+  int openViews_ = 0;  // views that read a store, so that no run may begin
 };
 
 }  // namespace zg

@@ -7,7 +7,7 @@
 
 #include "decode/frmDecode.h"
 #include "decode/frmLineInputMsg.h"
-#include "shell/ApplicationDecoder.h"
+#include "shell/LineDecoder.h"
 #include "shell/MenuTree.h"
 #include "shell/QtForm.h"
 #include "shell/frmBrowser.h"
@@ -37,22 +37,6 @@ std::string PictureKey(int picture, std::string_view what) {
 std::string PictureMenu(int picture, std::string_view what = {}) {
   return "mnu" + PictureKey(picture, what);
 }
-
-// Nobody follows a typed message but the record that it becomes.
-class NoProgress : public Progress {
- public:
-  void Begin(std::int64_t) override {}
-  void Advance(std::int64_t) override {}
-  void Yield() override {}
-};
-
-struct LineDecoder : ApplicationDecoder {
-  explicit LineDecoder(Application& app) : ApplicationDecoder(app, observer_, progress_) {}
-
- private:
-  DecodeObserver observer_;
-  NoProgress progress_;
-};
 
 }  // namespace
 
@@ -110,8 +94,15 @@ void frmMain::ShowRecent() {
 void frmMain::LineInputCommand() {
   frmLineInputMsg(app_, this).exec();
   if (!app_.mLineInputMsg.empty()) {
+    StoresWillChange();
     if (lineDecoder_ == nullptr) lineDecoder_ = std::make_unique<LineDecoder>(app_);
-    lineDecoder_->DecodeLine(app_.mLineInputMsg);
+    const LineDecoder::Family family = lineDecoder_->Decode(app_.mLineInputMsg);
+    StoresChanged();
+    if (family == LineDecoder::Family::Synop) {
+      ShowSynopReport(static_cast<int>(app_.Stores.SynopStore.Count()) - 1);
+    } else if (family == LineDecoder::Family::Metar) {
+      ShowMetarReport(static_cast<int>(app_.Stores.MetarStore.Count()) - 1);
+    }
   }
   RefreshStatusBar();
   CheckForEnablingMenu();

@@ -7,12 +7,14 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QTableView>
 #include <QUrl>
 
 #include "shell/MenuTree.h"
 #include "shell/QtForm.h"
 #include "tables/ReportUnits.h"
 #include "ui/UiTest.h"
+#include "views/frmGlobalView.h"
 
 namespace zg::test {
 namespace {
@@ -407,6 +409,90 @@ TEST_F(FrmMain, SizeIsRemembered) {
   KeepSize(App, Window());
   window_.reset();
   EXPECT_EQ(Window().size(), QSize(777, 444));
+}
+
+// The open window of a name, of those that are beside the main window.
+QWidget* OpenWindow(const char* name) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->isVisible() && window->objectName() == QLatin1String(name)) return window;
+  }
+  return nullptr;
+}
+
+TEST_F(FrmMain, TypedMessageOpensItsReport) {
+  OnModal("frmLineInputMsg", [](QWidget& form) {
+    QTest::keyClicks(&Find<QWidget>(form, "txtMsg"), "metar lirf 101250z 24012kt cavok 22/12=");
+    Click(form, "cmdDecode");
+  });
+  Action("mnuLineInput").trigger();
+  EXPECT_NE(OpenWindow("frmMetarMeteoData"), nullptr);
+  EXPECT_EQ(OpenWindow("frmSynopMeteoData"), nullptr);
+}
+
+TEST_F(FrmMain, TypedNonsenseOpensNothing) {
+  OnModal("frmLineInputMsg", [](QWidget& form) {
+    QTest::keyClicks(&Find<QWidget>(form, "txtMsg"), "words of note=");
+    Click(form, "cmdDecode");
+  });
+  Action("mnuLineInput").trigger();
+  EXPECT_EQ(OpenWindow("frmMetarMeteoData"), nullptr);
+  EXPECT_TRUE(LogHolds("Wrong Message."));
+}
+
+TEST_F(FrmMain, InputIsShutWhileAViewIsOpen) {
+  Window().OpenBulletin(SynopFile());
+  Window().OpenBulletin(MetarFile());
+  Action("mnuSynopDataGrid").trigger();
+  Action("mnuMetarSynopDataGrid").trigger();
+  EXPECT_FALSE(MenuEnabled("mnuInput"));
+  ASSERT_NE(OpenWindow("frmSynopGlobalView"), nullptr);
+  OpenWindow("frmSynopGlobalView")->close();
+  EXPECT_FALSE(MenuEnabled("mnuInput"));
+  ASSERT_NE(OpenWindow("frmMetarGlobalView"), nullptr);
+  OpenWindow("frmMetarGlobalView")->close();
+  EXPECT_TRUE(MenuEnabled("mnuInput"));
+}
+
+TEST_F(FrmMain, ViewOpenedAnewHasTheTitlesOfTheLanguage) {
+  Window().OpenBulletin(SynopFile());
+  const auto title = [&] {
+    Action("mnuSynopDataGrid").trigger();
+    QWidget* view = OpenWindow("frmSynopGlobalView");
+    const auto& grid = Find<QTableView>(*view, "lstGlobal");
+    const QString text = grid.model()->headerData(0, Qt::Horizontal).toString();
+    view->close();
+    return text;
+  };
+  EXPECT_EQ(title(), "StationId");
+  App.Texts.SetLanguage(0);
+  EXPECT_EQ(title(), "Stazione");
+}
+
+TEST_F(FrmMain, RowOfAViewOpensItsReport) {
+  Window().OpenBulletin(SynopFile());
+  Action("mnuSynopDataGrid").trigger();
+  auto* view = qobject_cast<frmGlobalView*>(OpenWindow("frmSynopGlobalView"));
+  ASSERT_NE(view, nullptr);
+  emit view->RecordChosen(0);
+  EXPECT_NE(OpenWindow("frmSynopMeteoData"), nullptr);
+}
+
+TEST_F(FrmMain, SingleReportNeedsRecords) {
+  EXPECT_FALSE(Action("mnuSingleSheet").isEnabled());
+  Window().OpenBulletin(SynopFile());
+  ASSERT_TRUE(Action("mnuSingleSheet").isEnabled());
+  Action("mnuSingleSheet").trigger();
+  ASSERT_NE(OpenWindow("frmSynopMeteoData"), nullptr);
+  EXPECT_EQ(OpenWindow("frmSynopMeteoData")->windowTitle(), "Meteo Data - Record: 1/1");
+}
+
+TEST_F(FrmMain, DataFieldsAreChosenForTheNextView) {
+  OnModal("frmSynopDataFields", [](QWidget& form) {
+    Click(form, "cmdNone");
+    Click(form, "cmdOK");
+  });
+  Action("mnuSynopDataFields").trigger();
+  EXPECT_EQ(Parameter("SynopDataFields"), "10000000000000000002");
 }
 
 class FrmMainFirstStart : public FrmMain {
