@@ -53,8 +53,8 @@ struct Application {
   MessageFilters Filters;
 
   // What windows tell each other.
-  std::string mFileName;       // the bulletin file to be decoded
-  std::string mLineInputMsg;   // the typed message to be decoded
+  std::string mFileName;            // the bulletin file to be decoded
+  std::string mLineInputMsg;        // the typed message to be decoded
   bool mSchedulingStarted = false;  // a scheduled cycle runs: nobody is there to be asked
   int mSelectedSynopMap = 0;        // field of the label at the stations, 0 for none
   int mSelectedMetarMap = 0;

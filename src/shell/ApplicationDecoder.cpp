@@ -11,8 +11,8 @@ ApplicationDecoder::ApplicationDecoder(Application& app, DecodeObserver& observe
                .Stores = app.Stores,
                .Log = app.Log,
                .Observer = observer},
-      decoder_({.ApplicationPath = app.ApplicationPath, .MaxMessages = app.MaxMessages()},
-               context_, app.Database, app.Messages, app.Time, progress) {}
+      decoder_({.ApplicationPath = app.ApplicationPath, .MaxMessages = app.MaxMessages()}, context_,
+               app.Database, app.Messages, app.Time, progress) {}
 
 MeteoDecode::Summary ApplicationDecoder::DecodeFile(const std::string& fileName) {
   context_.Filters = app_.Filters;

@@ -19,7 +19,7 @@ namespace zg {
 inline constexpr std::string_view NoChange = "nochange";
 
 struct LabelFile {
-  std::optional<std::string> FormCaption;                    // nothing: it stays
+  std::optional<std::string> FormCaption;                     // nothing: it stays
   std::vector<std::pair<std::string, std::string>> Captions;  // of controls, in order of the file
   std::string Error;  // path and reason, in English, if the file could not be read
 

@@ -146,7 +146,7 @@ constexpr ReportField Pressure[] = {
     {"txtGeopotPressure", Same<&Data::GeopotPressure>},
     {"txtGeopotHeight", Same<&Data::GeopotHeight>},
     {"txtPressTendencyVal", Same<&Data::PressTendencyVal>},
-    ReportField::Wide("txtPressTendency", Same<&Data::PressTendency>, 62, 2),
+    ReportField::Wide("txtPressTendency", Same<&Data::PressTendency>, 70, 3),
 };
 constexpr ReportField Clouds[] = {
     {"txtCloudCover", Same<&Data::CloudCover>, Box, 15},
@@ -158,9 +158,9 @@ constexpr ReportField Clouds[] = {
 };
 
 constexpr ReportGroup MeteoData[] = {
-    {"fraWeather", 0, 0, 12, 1, Weather},        {"fraWind", 1, 0, 3, 1, Wind},
-    {"fraTemperature", 1, 3, 3, 1, Temperature}, {"fraPressure", 1, 6, 6, 2, Pressure},
-    {"fraClouds", 2, 0, 12, 3, Clouds},
+    {"fraWeather", 0, 0, 12, 1, Weather},        {"fraWind", 1, 0, 6, 2, Wind},
+    {"fraTemperature", 1, 6, 6, 2, Temperature}, {"fraPressure", 2, 0, 12, 4, Pressure},
+    {"fraClouds", 3, 0, 12, 3, Clouds},
 };
 
 // --- Tab 1: section 2 --------------------------------------------------------------------------

@@ -48,8 +48,9 @@ TEST_F(ReportUnits, AnythingButYesIsNoConversion) {
 }
 
 TEST_F(ReportUnits, UnknownTextLeavesTheUnitAsItWas) {
-  Write("TemperUnit = °F\nLevelUnit = m\nPressureUnit = hpa\nSpeedUnit = furlongs\nDistUnit = SM\n"
-        "UnitConversion = Yes\n");
+  Write(
+      "TemperUnit = °F\nLevelUnit = m\nPressureUnit = hpa\nSpeedUnit = furlongs\nDistUnit = SM\n"
+      "UnitConversion = Yes\n");
   texts_.SetUnit(UnitKind::Speed, " mps");
   const UnitChoice choice = Read();
   EXPECT_EQ(choice.Entries[static_cast<std::size_t>(UnitKind::Speed)], std::nullopt);
