@@ -39,6 +39,7 @@ std::string_view FirstWord(std::string_view text) noexcept {
 
 // AAXX or BBXX where the first word is that; else Unknown.
 MessageType SynopTypeOf(std::string_view text) noexcept {
+  if (!Holds("AB ", text.substr(0, 1))) return MessageType::Unknown;  // as nearly all are
   const std::string_view word = FirstWord(text);
   if (word == "AAXX") return MessageType::AAXX;
   return word == "BBXX" ? MessageType::BBXX : MessageType::Unknown;
@@ -80,7 +81,7 @@ void BulletinScanner::Reset(bool singleMessage) {
 BulletinScanner::Result BulletinScanner::ScanLine(std::string_view line) {
   ++lineCount_;
   line = Trim(line);
-  if (Holds(line, "?")) return {};
+  if (line.find('?') != std::string_view::npos) return {};
   if (IsTimeStamp(line)) {
     blankEnds_ = true;
     return {};
@@ -325,7 +326,7 @@ bool BulletinScanner::SplitAndDispatch() {
     const std::size_t start = at;
     at = FindBlank(text, at);
     if (start < start_.Position) ++message_.HeaderEnd;
-    message_.WordList.push_back(text.substr(start, at - start));
+    message_.WordList.emplace_back(text.data() + start, at - start);
   }
   message_.HasHeading =
       IsSynop(messageType_)

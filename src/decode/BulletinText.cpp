@@ -1,6 +1,7 @@
 #include "decode/BulletinText.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace zg {
 namespace {
@@ -15,11 +16,16 @@ bool NeedsLineFeedRepair(std::string_view bytes) noexcept {
 }
 
 void RepairLineFeeds(std::string& bytes) {
-  std::size_t changed = std::string::npos;  // the line feed that was changed last
-  for (std::size_t at = bytes.find('\n'); at != std::string::npos; at = bytes.find('\n', at + 1)) {
-    if (at > 0 && bytes[at - 1] == '\r' && changed != at - 1) continue;
-    bytes[at] = '\r';
-    changed = at;
+  // Mostly there is no carriage return at all.
+  if (bytes.find('\r') == std::string::npos) {
+    for (char& c : bytes) c = c == '\n' ? '\r' : c;
+  } else {
+    char before = '\n';  // as it was
+    for (char& c : bytes) {
+      const char here = c;
+      if (here == '\n' && before != '\r') c = '\r';
+      before = here;
+    }
   }
   bytes += AddedLineEnd;
 }
@@ -30,11 +36,18 @@ LineReader::LineReader(std::string_view bytes, bool repaired) noexcept
     end_ -= AddedLineEnd.size();
     extraLine_ = true;
   }
+  if (end_ == 0) return;
+  nextFeed_ = Find('\n');
+  nextReturn_ = Find('\r');
 }
 
 // Where the character stands next; the end if it does not.
 std::size_t LineReader::Find(char c) const noexcept {
-  return std::min(bytes_.find(c, position_), end_);
+  const char* start = bytes_.data() + position_;
+  const void* found = std::memchr(start, c, end_ - position_);
+  return found == nullptr
+             ? end_
+             : position_ + static_cast<std::size_t>(static_cast<const char*>(found) - start);
 }
 
 bool LineReader::Next(std::string_view& line) noexcept {
@@ -46,20 +59,20 @@ bool LineReader::Next(std::string_view& line) noexcept {
     return true;
   }
   // Each kind of line end is searched for once up to where it is: no byte is looked at thrice.
-  if (!started_ || nextFeed_ < position_) nextFeed_ = Find('\n');
-  if (!started_ || nextReturn_ < position_) nextReturn_ = Find('\r');
-  started_ = true;
+  if (nextFeed_ < position_) nextFeed_ = Find('\n');
+  if (nextReturn_ < position_) nextReturn_ = Find('\r');
   const std::size_t lineEnd = std::min(nextFeed_, nextReturn_);
-  line = bytes_.substr(position_, lineEnd - position_);
-  const std::string_view behind = bytes_.substr(lineEnd, end_ - lineEnd);
-  std::size_t ending = behind.empty() ? 0 : 1;
-  if (behind.starts_with("\r\r\n")) {
-    ending = 3;
-  } else if (behind.starts_with("\r\n")) {
-    ending = 2;
-  }
-  position_ = lineEnd + ending;
+  line = {bytes_.data() + position_, lineEnd - position_};
+  position_ = lineEnd + LengthOfLineEnd(lineEnd);
   return true;
+}
+
+// Of CR CR LF, CR LF, CR or LF at a position; 0 at the end.
+std::size_t LineReader::LengthOfLineEnd(std::size_t at) const noexcept {
+  const std::size_t rest = end_ - at;
+  if (rest < 2 || bytes_[at] == '\n') return std::min<std::size_t>(rest, 1);
+  if (bytes_[at + 1] == '\n') return 2;
+  return rest > 2 && bytes_[at + 1] == '\r' && bytes_[at + 2] == '\n' ? 3 : 1;
 }
 
 }  // namespace zg

@@ -34,14 +34,14 @@ class LineReader {
 
  private:
   std::size_t Find(char c) const noexcept;
+  std::size_t LengthOfLineEnd(std::size_t at) const noexcept;
 
   std::string_view bytes_;
   std::size_t position_ = 0;
-  std::size_t nextFeed_ = 0;    // the first line feed at or behind position_, once searched for
+  std::size_t nextFeed_ = 0;    // the first line feed at or behind position_
   std::size_t nextReturn_ = 0;  // the first carriage return
   std::size_t end_;             // end of the lines that are cut in the ordinary way
-  bool started_ = false;
-  bool extraLine_ = false;  // the added line end is still to be read
+  bool extraLine_ = false;      // the added line end is still to be read
 };
 
 }  // namespace zg

@@ -179,7 +179,7 @@ bool IsTypeOrCorrectionWord(std::string_view word) noexcept {
 
 ReportStart FindReportStart(std::string_view text, std::size_t headerLength,
                             bool wantType) noexcept {
-  const Word first = WordFrom(text, 0);
+  const Word first = headerLength == 0 ? WordFrom(text, 0) : Word{};
   if (headerLength == 0) {
     const MessageType named = ReportTypeOfWord(first.text);
     if (named != MessageType::Unknown) return FindBehindTypeWord(text, first, named);

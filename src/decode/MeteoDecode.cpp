@@ -15,23 +15,23 @@ namespace zg {
 namespace {
 
 constexpr int LinesBetweenYields = 10;
+constexpr std::size_t IndexLength = 5;  // IIiii
+constexpr std::size_t NameLength = 4;   // CCCC
 
 std::string_view NameOfPath(std::string_view path) noexcept {
   const std::size_t separator = path.find_last_of("/\\");
   return separator == std::string_view::npos ? path : path.substr(separator + 1);
 }
 
-// The first word of a line, or of the one behind a time stamp: the station if a report begins
-// there. Empty where it cannot be one.
-std::string_view StationWord(std::string_view line) noexcept {
-  constexpr std::size_t shortestReport = 20;
+// The first word of a line, or of the one behind a time stamp, if it has this many characters: the
+// station where a report begins there. Empty where it cannot be one. `ahead` is the rest of the
+// file, from the line on.
+std::string_view StationWord(std::string_view ahead, std::size_t length) noexcept {
   constexpr std::string_view timeStamp = "2003/11/15 12:00\n";
-  if (line.size() > timeStamp.size() && line[4] == '/' && line[7] == '/') {
-    line.remove_prefix(timeStamp.size());
-  }
-  if (line.size() < shortestReport) return {};
-  const std::string_view word = line.substr(0, FindBlank(line.substr(0, shortestReport), 0));
-  return word.size() == 4 || word.size() == 5 ? word : std::string_view{};
+  constexpr std::size_t shortestReport = 20;
+  if (ahead.size() < timeStamp.size() + shortestReport) return {};
+  if (ahead[4] == '/' && ahead[7] == '/') ahead.remove_prefix(timeStamp.size());
+  return ahead[length] == ' ' ? ahead.substr(0, length) : std::string_view{};
 }
 
 }  // namespace
@@ -89,11 +89,12 @@ void MeteoDecode::StartRun(bool singleMessage) {
   scanner_.Reset(singleMessage);
   storeFamily_ = Family::None;
   firstMessage_ = true;
+  synopDecoder_.Expect({});
+  metarDecoder_.Expect({});
   summary_ = {};
 }
 
-MeteoDecode::Summary MeteoDecode::Run(std::string_view name, std::string_view bytes,
-                                      bool repaired) {
+MeteoDecode::Summary MeteoDecode::Run(std::string_view name, std::string& bytes, bool repaired) {
   StartRun(false);
   summary_.Read = true;
   summary_.Bytes = static_cast<std::int64_t>(bytes.size());
@@ -129,16 +130,22 @@ void MeteoDecode::CloseWrongFile() {
   wrongFile_.reset();
 }
 
-void MeteoDecode::ReadLines(std::string_view bytes, bool repaired) {
+// Reads all lines, where they are: that all bytes are made upper case beforehand saves a copy of
+// each.
+void MeteoDecode::ReadLines(std::string& bytes, bool repaired) {
   const std::int64_t start = clock_.TickCount();
+  UpperCaseWindows1252(bytes);
   LineReader reader(bytes, repaired);
   std::string_view line;
+  std::string_view station;  // what may be one in the line to be read next, or behind it
   for (int counter = 1; reader.Next(line); ++counter) {
-    ExpectStation(line);
-    context_.Stations.ExpectWord(StationWord(reader.Ahead()));
-    upperLine_ = line;
-    UpperCaseWindows1252(upperLine_);
-    scanner_.ScanLine(upperLine_);
+    if (!station.empty()) ExpectStation(station);
+    const std::string_view next =
+        StationWord(reader.Ahead(), storeFamily_ == Family::Synop ? IndexLength : NameLength);
+    // Ahead of a time stamp it has been seen already.
+    station = next.data() == station.data() ? std::string_view{} : next;
+    if (!station.empty()) context_.Stations.ExpectWord(station);
+    scanner_.ScanLine(line);
     progress_.Advance(static_cast<std::int64_t>(reader.Position()));
     if (counter % LinesBetweenYields == 0) progress_.Yield();
     while (break_) progress_.Yield();
@@ -150,17 +157,21 @@ void MeteoDecode::ReadLines(std::string_view bytes, bool repaired) {
   stopRequested_ = false;
 }
 
-// Has brought near what will be read of the station if the line begins a report: where its row is
-// was fetched while the line before was read.
-void MeteoDecode::ExpectStation(std::string_view line) const noexcept {
-  const StationRow* row = context_.Stations.FindByWord(StationWord(line));
+// Looks a word up that may be the station of a report, and has brought near what will be read of
+// it: where its row is was fetched while the line before was read.
+void MeteoDecode::ExpectStation(std::string_view word) noexcept {
+  if (storeFamily_ == Family::Synop && !IsDigit(word[0])) return;
+  const StationFound found = context_.Stations.FindByWord(word);
+  const StationRow* row = found.Row;
   if (row == nullptr) return;
   PrefetchForReading(row, sizeof(StationRow));
   // Its number without reading it: it is not there yet.
   const auto number = static_cast<std::size_t>(row - context_.Stations.Rows().data());
   if (storeFamily_ == Family::Synop) {
+    synopDecoder_.Expect(found);
     context_.Stores.SynopStore.Texts().Stations.Expect(number);
   } else {
+    metarDecoder_.Expect(found);
     context_.Stores.MetarStore.Texts().Stations.Expect(number);
   }
 }
@@ -176,9 +187,9 @@ bool MeteoDecode::DecodeLine(std::string_view text) {
   StartRun(true);
   BulletinScanner::Result result;
   if (!text.empty()) {
-    upperLine_ = Utf8ToWindows1252(text);
-    UpperCaseWindows1252(upperLine_);
-    result = scanner_.ScanLine(upperLine_);
+    std::string line = Utf8ToWindows1252(text);
+    UpperCaseWindows1252(line);
+    result = scanner_.ScanLine(line);
   }
   stopRequested_ = false;
   const bool stored = result.Complete && !result.Failed;

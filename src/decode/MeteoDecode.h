@@ -75,12 +75,12 @@ class MeteoDecode : private ScannerClient {
 
   bool Repair(std::string& bytes);
   void StartRun(bool singleMessage);
-  Summary Run(std::string_view name, std::string_view bytes, bool repaired);
+  Summary Run(std::string_view name, std::string& bytes, bool repaired);
   bool ClaimStore(Family family);
   void CountStored();
   void StoreFronts(const BulletinMessage& message);
-  void ExpectStation(std::string_view line) const noexcept;
-  void ReadLines(std::string_view bytes, bool repaired);
+  void ExpectStation(std::string_view word) noexcept;
+  void ReadLines(std::string& bytes, bool repaired);
   void LogSpeed(std::int64_t position, std::int64_t milliseconds);
   void OpenWrongFile(std::string_view name);
   void CloseWrongFile();
@@ -102,7 +102,6 @@ class MeteoDecode : private ScannerClient {
   bool break_ = false;
   Summary summary_;
   std::unique_ptr<AtomicFile> wrongFile_;
-  std::string upperLine_;
 };
 
 // The text of a typed message made one line: cut behind the character that follows the first "=",

@@ -18,6 +18,8 @@ constexpr bool IsMissing(std::uint8_t value) noexcept { return value == MissingB
 constexpr bool IsMissing(std::int16_t value) noexcept { return value == MissingShort; }
 constexpr bool IsMissing(std::int32_t value) noexcept { return value == MissingLong; }
 constexpr bool IsMissing(float value) noexcept { return value == MissingFloat; }
-constexpr bool IsMissing(std::string_view text) noexcept { return text == Unk; }
+constexpr bool IsMissing(std::string_view text) noexcept {
+  return text.size() == Unk.size() && text[0] == Unk[0] && text == Unk;
+}
 
 }  // namespace zg

@@ -232,9 +232,12 @@ const StationRow* StationDirectory::FindByIcaoName(std::string_view IcaoName) co
   return FindByName(byIcaoName_, &StationRow::IcaoName, IcaoName);
 }
 
-const StationRow* StationDirectory::FindByWord(std::string_view word) const noexcept {
+StationFound StationDirectory::FindByWord(std::string_view word) const noexcept {
   std::uint32_t number = 0;
-  return ReadFigures(word, number) ? FindByNumber(number) : FindByIcaoName(word);
+  if (ReadFigures(word, number)) {
+    return {.Word = word, .Row = FindByNumber(number), .ByNumber = true};
+  }
+  return {.Word = word, .Row = FindByIcaoName(word)};
 }
 
 void StationDirectory::ExpectWord(std::string_view word) const noexcept {

@@ -31,6 +31,14 @@ struct alignas(64) StationRow {
   int Quadrant = 0;  // by the letters of the position (WMO code table 3333); 0 without letters
 };
 
+// What a look-up of a word has found: made when the word is first seen, it serves once more when
+// the word is decoded.
+struct StationFound {
+  std::string_view Word;  // the station, as the line has it; a view into the line
+  const StationRow* Row = nullptr;
+  bool ByNumber = false;  // by its WMO index, not by its indicator
+};
+
 // Fills in what the block does not know yet from a row: the name always, everything else where the
 // block has nothing. A null row changes nothing.
 void LoadStationRecord(const StationRow* row, StationBlock& Block);
@@ -57,8 +65,18 @@ class StationDirectory {
   // The row of an ICAO location indicator; null if there is none.
   const StationRow* FindByIcaoName(std::string_view IcaoName) const noexcept;
 
-  // The row of a word that is the one or the other: figures are a WMO index.
-  const StationRow* FindByWord(std::string_view word) const noexcept;
+  // Looks up a word that is the one or the other: figures are a WMO index.
+  StationFound FindByWord(std::string_view word) const noexcept;
+  // The first two look-ups where this one may have been made before: then it is not made again.
+  const StationRow* FindByWMOIndex(std::string_view word,
+                                   const StationFound& before) const noexcept {
+    return before.ByNumber && before.Word == word ? before.Row : FindByWMOIndex(word);
+  }
+  const StationRow* FindByIcaoName(std::string_view IcaoName,
+                                   const StationFound& before) const noexcept {
+    const bool same = before.Row != nullptr && !before.ByNumber && before.Word == IcaoName;
+    return same ? before.Row : FindByIcaoName(IcaoName);
+  }
   // Has the place brought near where a look-up of this word will look.
   void ExpectWord(std::string_view word) const noexcept;
 

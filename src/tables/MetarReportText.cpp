@@ -63,9 +63,10 @@ constexpr std::int16_t FirstInchSetting = 1501;
 
 // "15/12:50Z" from ddhhmm, "12:50Z" from hhmm; nothing from another number of characters.
 std::string_view TimeText(std::string_view digits, Maker& make) {
-  if ((digits.size() == 6 || digits.size() == 4) && IsDigits(digits)) {
+  if (std::uint32_t time = 0;
+      (digits.size() == 6 || digits.size() == 4) && ReadFigures(digits, time)) {
     const bool day = digits.size() == 6;
-    return make.Of(day ? Rule::DayAndTime : Rule::Time, static_cast<int>(Value(digits)),
+    return make.Of(day ? Rule::DayAndTime : Rule::Time, time,
                    [&] { return FormatText(digits, day ? "00/00:00Z" : "00:00Z"); });
   }
   const std::size_t count = CharacterCount(digits);

@@ -1,5 +1,7 @@
 #include "tables/StationText.h"
 
+#include <bit>
+#include <cstdint>
 #include <string>
 
 #include "decode/synop/SynopRecord.h"
@@ -9,9 +11,19 @@
 namespace zg {
 namespace {
 
-// The texts that depend on the directory row alone (and, without a row, on the message).
-const StationPlace* MakePlace(const StationBlock& block, const TextUtility& textUtility,
-                              TextArena& arena) {
+// Positions as texts, beside the texts that records have of other numbers.
+enum class PositionRule : std::uint32_t { Latitude = 1000, Longitude };
+
+std::string_view SharedPosition(PositionRule rule, float position, ValueTexts& values) {
+  return values.Get(static_cast<std::uint32_t>(rule), std::bit_cast<std::uint32_t>(position), [&] {
+    return rule == PositionRule::Latitude ? GetStationLatInText(position)
+                                          : GetStationLongInText(position);
+  });
+}
+
+// The texts of a station but for its position.
+StationPlace* MakePlace(const StationBlock& block, const TextUtility& textUtility,
+                        TextArena& arena) {
   auto* place = arena.Make<StationPlace>(1);
   StationPlace& result = *place;
   result.WMOIndex = block.WMOIndex;
@@ -23,14 +35,35 @@ const StationPlace* MakePlace(const StationBlock& block, const TextUtility& text
     result.Country = arena.Copy(block.Country);
   }
   result.IcaoName = arena.Copy(block.IcaoName);
-  if (block.LatPosition) result.LatPosition = arena.Copy(GetStationLatInText(*block.LatPosition));
-  if (block.LongPosition) {
-    result.LongPosition = arena.Copy(GetStationLongInText(*block.LongPosition));
-  }
   result.StationHT = arena.Copy(block.StationHT);
   result.SensorHT = arena.Copy(block.SensorHT);
   if (block.Quadrant) {
     result.Quadrant = textUtility.Quadrant(static_cast<std::int16_t>(*block.Quadrant));
+  }
+  return place;
+}
+
+// The texts of a row of the directory. All are in `arena`: they outlive those of values.
+const StationPlace* MakeRowPlace(const StationBlock& block, const TextUtility& textUtility,
+                                 TextArena& arena) {
+  StationPlace* place = MakePlace(block, textUtility, arena);
+  if (block.LatPosition) place->LatPosition = arena.Copy(GetStationLatInText(*block.LatPosition));
+  if (block.LongPosition) {
+    place->LongPosition = arena.Copy(GetStationLongInText(*block.LongPosition));
+  }
+  return place;
+}
+
+// The texts of a station that only its message tells of: ships meet on the same tenths of a degree.
+const StationPlace* MakeMessagePlace(const StationBlock& block, const TextUtility& textUtility,
+                                     StoreTexts& texts) {
+  StationPlace* place = MakePlace(block, textUtility, texts.Arena);
+  if (block.LatPosition) {
+    place->LatPosition = SharedPosition(PositionRule::Latitude, *block.LatPosition, texts.Values);
+  }
+  if (block.LongPosition) {
+    place->LongPosition =
+        SharedPosition(PositionRule::Longitude, *block.LongPosition, texts.Values);
   }
   return place;
 }
@@ -48,11 +81,11 @@ std::int32_t ClassifyStation(std::string_view Station, std::string_view Type) no
 StationTexts FillStationTexts(const StationBlock& block, int stationRow,
                               const TextUtility& textUtility, StoreTexts& texts) {
   StationTexts result;
-  result.Place = stationRow < 0 ? MakePlace(block, textUtility, texts.Arena)
-                                : texts.Stations.Get(static_cast<std::size_t>(stationRow),
-                                                     [&](TextArena& arena) {
-                                                       return MakePlace(block, textUtility, arena);
-                                                     });
+  result.Place = stationRow < 0 ? MakeMessagePlace(block, textUtility, texts)
+                                : texts.Stations.Get(
+                                      static_cast<std::size_t>(stationRow), [&](TextArena& arena) {
+                                        return MakeRowPlace(block, textUtility, arena);
+                                      });
   result.MsgId = texts.Repeated(texts.MsgId, block.MsgId);
   result.Sender = texts.Repeated(texts.Sender, block.Sender);
   result.AddedInfo = texts.Repeated(texts.AddedInfo, block.AddedInfo);

@@ -90,9 +90,9 @@ std::string_view WaveDirectionText(std::uint8_t value, Maker& make) {
 // "15/12:30Z" from YYGGgg.
 std::string_view DayAndTimeText(std::string_view value, Maker& make) {
   constexpr std::string_view mask = "00/00:00Z";
-  if (!IsDigits(value)) return make.Arena().Copy(FormatText(value, mask));
-  return make.Of(Rule::DayAndTime, static_cast<int>(Value(value)),
-                 [&] { return FormatText(value, mask); });
+  std::uint32_t time = 0;
+  if (!ReadFigures(value, time)) return make.Arena().Copy(FormatText(value, mask));
+  return make.Of(Rule::DayAndTime, time, [&] { return FormatText(value, mask); });
 }
 
 // "12:30Z" from GGgg.

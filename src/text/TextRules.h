@@ -180,6 +180,22 @@ std::optional<T> LenientInteger(std::string_view text) noexcept {
   return static_cast<T>(product / Divisor);
 }
 
+// Both readings where they are one, for a part of a few figures as nearly all are: sets the field
+// to the number times `Factor` and divided by `Divisor`. False, and the field stays, for any other
+// text and where there is something to be rounded or the field is too small.
+template <std::uint32_t Factor = 1, std::uint32_t Divisor = 1, typename T>
+constexpr bool SetFigures(T& field, std::string_view part) noexcept {
+  static_assert(Factor <= 100'000, "four figures times this have to fit");
+  std::uint32_t whole = 0;
+  if (part.size() > 4 || !ReadFigures(part, whole)) return false;
+  const std::uint32_t product = whole * Factor;
+  if (product % Divisor != 0) return false;
+  constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<T>::max());
+  if (product / Divisor > largest) return false;
+  field = static_cast<T>(product / Divisor);
+  return true;
+}
+
 // --- Writing numbers ---------------------------------------------------------------------------
 
 // Plain decimal text of a 64-bit float: the shortest form of up to 15 significant digits, never an

@@ -1,8 +1,11 @@
 #include "text/Windows1252.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <span>
 
 namespace zg {
 namespace {
@@ -82,9 +85,14 @@ char ToByte(std::uint32_t codePoint) noexcept {
 }  // namespace
 
 bool IsAscii(std::string_view text) noexcept {
-  unsigned char all = 0;
+  std::uint64_t all = 0;  // eight characters at a time, the rest one by one
+  for (; text.size() >= sizeof all; text.remove_prefix(sizeof all)) {
+    std::uint64_t eight = 0;
+    std::memcpy(&eight, text.data(), sizeof eight);
+    all |= eight;
+  }
   for (char c : text) all |= static_cast<unsigned char>(c);
-  return all < 0x80;
+  return (all & 0x8080808080808080U) == 0;
 }
 
 bool IsUtf8(std::string_view text) noexcept {
@@ -131,13 +139,18 @@ std::string Utf8ToWindows1252(std::string_view text) {
 }
 
 void UpperCaseWindows1252(std::string& bytes) noexcept {
-  unsigned char all = 0;
-  for (char& c : bytes) {
-    all |= static_cast<unsigned char>(c);
-    c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
+  // In pieces: only those that are not ASCII go through the table.
+  constexpr std::size_t pieceSize = 256;
+  for (std::size_t start = 0; start < bytes.size(); start += pieceSize) {
+    const std::span<char> piece(bytes.data() + start, std::min(pieceSize, bytes.size() - start));
+    unsigned char all = 0;
+    for (char& c : piece) {
+      all |= static_cast<unsigned char>(c);
+      c = static_cast<char>(c - (c >= 'a' && c <= 'z' ? 'a' - 'A' : 0));
+    }
+    if (all < 0x80) continue;
+    for (char& c : piece) c = static_cast<char>(Capitals[static_cast<unsigned char>(c)]);
   }
-  if (all < 0x80) return;
-  for (char& c : bytes) c = static_cast<char>(Capitals[static_cast<unsigned char>(c)]);
 }
 
 }  // namespace zg

@@ -65,6 +65,9 @@ TEST(BulletinText, RepairLineFeeds) {
       {"blank lines", "a\n\n\nb\n", "a\r\r\rb\r\r\n"},
       {"line ends that are whole", "a\r\nb\r\n", "a\r\nb\r\n\r\n"},
       {"line ends of the circuit", "a\r\r\nb\r\r\n", "a\r\r\nb\r\r\n\r\n"},
+      {"line feed ahead of a whole end", "a\n\r\nb", "a\r\r\nb\r\n"},
+      {"line feed at the start", "\n\r\n", "\r\r\n\r\n"},
+      {"line feeds around a return", "\n\n\r\n\n", "\r\r\r\n\r\r\n"},
       {"mixed", "a\r\nb\nc\r\r\n\n\nNNNN\r\n", "a\r\nb\rc\r\r\n\r\rNNNN\r\n\r\n"},
       {"other bytes stay", std::string("\t\0\xE0\x1A\n", 5), std::string("\t\0\xE0\x1A\r\r\n", 7)},
   };
@@ -99,6 +102,30 @@ TEST(BulletinText, LineReader) {
        {{std::string("\0\x1A", 2), 3}, {"\x0C", 4}}},
   };
   for (const Row& row : rows) EXPECT_EQ(LinesOf(row.bytes, false), row.lines) << row.name;
+}
+
+// Ahead is what the next lines are cut from, behind any kind of line end.
+TEST(BulletinText, LineReaderAhead) {
+  const std::string bytes = "a\nb\rc\r\nd\r\r\n\ne";
+  const char* const ahead[] = {
+      "b\rc\r\nd\r\r\n\ne", "c\r\nd\r\r\n\ne", "d\r\r\n\ne", "\ne", "e", ""};
+  LineReader reader(bytes, false);
+  EXPECT_EQ(reader.Ahead(), bytes);
+  std::string_view line;
+  for (const char* rest : ahead) {
+    ASSERT_TRUE(reader.Next(line)) << rest;
+    EXPECT_EQ(reader.Ahead(), rest);
+  }
+  EXPECT_FALSE(reader.Next(line));
+  EXPECT_EQ(reader.Ahead(), "");
+}
+
+TEST(BulletinText, LineReaderOfNothing) {
+  LineReader reader({}, false);
+  std::string_view line = "before";
+  EXPECT_FALSE(reader.Next(line));
+  EXPECT_EQ(line, "");
+  EXPECT_EQ(reader.Ahead(), "");
 }
 
 TEST(BulletinText, LineReaderOfARepairedFile) {

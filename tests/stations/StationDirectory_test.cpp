@@ -100,6 +100,55 @@ TEST_F(Directory, FindByIcaoName) {
   }
 }
 
+TEST_F(Directory, FindByWord) {
+  struct Row {
+    const char* word;
+    int id;
+    bool byNumber;
+  };
+  const Row rows[] = {{"LIRF", 0, false},  {"EGLL", 1, false},   {"16242", 0, true},
+                      {"03772", 1, true},  {"00000", 8, true},   {"99999", -1, true},
+                      {"ZZZZ", -1, false}, {"1624A", -1, false}, {"", -1, false}};
+  for (const Row& row : rows) {
+    const StationFound found = directory.FindByWord(row.word);
+    EXPECT_EQ(found.Word, row.word);
+    EXPECT_EQ(found.Row != nullptr ? found.Row->id : -1, row.id) << row.word;
+    EXPECT_EQ(found.ByNumber, row.byNumber) << row.word;
+  }
+}
+
+// A look-up of before serves for the same word in the same way, and for no other.
+TEST_F(Directory, LookUpsMadeBefore) {
+  const StationFound rome = directory.FindByWord("LIRF");
+  const StationFound london = directory.FindByWord("03772");
+  const StationFound none = directory.FindByWord("ZZZZ");
+  for (const StationFound& before : {rome, london, none, StationFound{}}) {
+    for (const char* word : {"LIRF", "EGLL", "ZZZZ", "03772", "3772", "16242", ""}) {
+      EXPECT_EQ(directory.FindByIcaoName(word, before), directory.FindByIcaoName(word))
+          << word << " behind " << before.Word;
+      EXPECT_EQ(directory.FindByWMOIndex(word, before), directory.FindByWMOIndex(word))
+          << word << " behind " << before.Word;
+    }
+  }
+  // It is what was found, not looked up again.
+  const StationFound other{.Word = "LIRF", .Row = london.Row};
+  EXPECT_EQ(directory.FindByIcaoName("LIRF", other), london.Row);
+  EXPECT_EQ(directory.FindByWMOIndex("03772", {.Word = "03772", .Row = rome.Row, .ByNumber = true}),
+            rome.Row);
+}
+
+// To expect a word changes nothing, in a directory without stations too.
+TEST_F(Directory, ExpectWord) {
+  const StationDirectory empty;
+  for (const char* word : {"LIRF", "16242", "ZZZZ", "99999", "", "A name of many characters"}) {
+    const StationRow* row = directory.FindByWord(word).Row;
+    directory.ExpectWord(word);
+    EXPECT_EQ(directory.FindByWord(word).Row, row) << word;
+    empty.ExpectWord(word);
+    EXPECT_EQ(empty.FindByWord(word).Row, nullptr) << word;
+  }
+}
+
 TEST_F(Directory, LookUpsByName) {
   EXPECT_EQ(directory.GetCountryByStation("London"), "United Kingdom");
   EXPECT_EQ(directory.GetCountryByStation("L'Aquila"), "Italy");

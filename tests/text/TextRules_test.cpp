@@ -169,6 +169,25 @@ TEST(Holds, FindsAPart) {
   EXPECT_FALSE(Holds("", "a"));
 }
 
+// Blanks at every distance, so that they stand at each place among the eight looked at together.
+TEST(FindBlank, FindsTheNextOne) {
+  for (std::size_t length = 0; length <= 24; ++length) {
+    const std::string word(length, 'A');
+    EXPECT_EQ(FindBlank(word, 0), length);
+    for (std::size_t at = 0; at <= length; ++at) {
+      EXPECT_EQ(FindBlank(word + " B C", at), length) << at;
+      EXPECT_EQ(FindBlank(word + "  !!!!!!!!", at), length) << at;
+    }
+  }
+  EXPECT_EQ(FindBlank("A B C", 1), 1U);
+  EXPECT_EQ(FindBlank("A B C", 2), 3U);
+  EXPECT_EQ(FindBlank("A B C", 5), 5U);
+  EXPECT_EQ(FindBlank("A\tB\nC\xA0"
+                      "D\x21\x1F E",
+                      0),
+            9U);  // blanks only
+}
+
 // --- Reading numbers ---------------------------------------------------------------------------
 
 struct NumberCase {
@@ -265,6 +284,39 @@ TEST(StrictInteger, KnowsTheRangeOfItsType) {
   EXPECT_EQ(StrictInteger<std::int16_t>("-32769"), std::nullopt);
   EXPECT_EQ(StrictInteger<std::int32_t>("2147483647"), std::int32_t{2147483647});
   EXPECT_EQ(StrictInteger<std::int32_t>("2147483648"), std::nullopt);
+}
+
+// What it reads the other readings read alike; what it does not it leaves alone.
+TEST(SetFigures, AgreesWithTheOtherReadings) {
+  constexpr std::uint8_t untouched = 77;
+  for (const char* text : {"0", "7", "07", "255", "256", "0255", "9999", "00255", "", "/", "//",
+                           "1/", "-1", "+1", "1.5", ".5", "A", "1A", " 1"}) {
+    std::uint8_t field = untouched;
+    if (SetFigures(field, text)) {
+      EXPECT_EQ(StrictInteger<std::uint8_t>(text), field) << text;
+      EXPECT_EQ(LenientInteger<std::uint8_t>(text), field) << text;
+    } else {
+      EXPECT_EQ(field, untouched) << text;
+    }
+  }
+  std::uint8_t field = untouched;
+  EXPECT_TRUE(SetFigures(field, "0255"));
+  EXPECT_EQ(field, 255);
+  EXPECT_FALSE(SetFigures(field, "256"));
+  EXPECT_FALSE(SetFigures(field, "00001"));  // more figures than it is made for
+  EXPECT_FALSE(SetFigures(field, ""));
+  EXPECT_EQ(field, 255);
+}
+
+TEST(SetFigures, WithFactorAndDivisor) {
+  std::int32_t metres = -1;
+  EXPECT_TRUE((SetFigures<1000>(metres, "9999")));
+  EXPECT_EQ(metres, 9999000);
+  std::uint8_t tens = 77;
+  EXPECT_TRUE((SetFigures<1, 10>(tens, "350")));
+  EXPECT_EQ(tens, 35);
+  EXPECT_FALSE((SetFigures<1, 10>(tens, "355")));  // is to be rounded
+  EXPECT_EQ(tens, 35);
 }
 
 TEST(ToInteger, IsNothingForWhatIsNoNumber) {

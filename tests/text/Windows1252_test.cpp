@@ -102,6 +102,29 @@ TEST(Windows1252, IsAscii) {
   EXPECT_FALSE(IsAscii("\xFF"));
 }
 
+TEST(Windows1252, IsAsciiOfEachLength) {
+  for (std::size_t length = 1; length <= 20; ++length) {
+    EXPECT_TRUE(IsAscii(std::string(length, '\x7F'))) << length;
+    for (std::size_t at = 0; at < length; ++at) {
+      std::string text(length, 'A');
+      text[at] = '\x80';
+      EXPECT_FALSE(IsAscii(text)) << length << " at " << at;
+    }
+  }
+}
+
+// A letter with an accent is made a capital wherever in a long text it stands.
+TEST(Windows1252, UpperCaseOfLongTexts) {
+  for (const std::size_t at : {0U, 254U, 255U, 256U, 257U, 511U, 512U, 599U}) {
+    std::string text(600, 'a');
+    std::string capitals(600, 'A');
+    text[at] = '\xE0';
+    capitals[at] = '\xC0';
+    UpperCaseWindows1252(text);
+    EXPECT_EQ(text, capitals) << at;
+  }
+}
+
 TEST(Windows1252, UpperCase) {
   struct Row {
     const char* name;

@@ -31,7 +31,7 @@ DecodeOutcome MetarDecoder::DecodeMetarMessage(const BulletinMessage& message, i
   raw_.RawText = scratch_.Begin(message.Text);
   ResetMetarRecord(raw_);
   DecodeHeading(message);
-  const StationRow* row = context_.Stations.FindByIcaoName(raw_.Station.Station);
+  const StationRow* row = context_.Stations.FindByIcaoName(raw_.Station.Station, expected_);
   if (!FindTime(message)) {
     LogAtLine(context_, "Observ. Time o Valid Time non trovato. - Linea: ",
               "Observ. Time or Valid Time not found. - Line: ", message.LineCount);

@@ -17,6 +17,10 @@ class MetarDecoder {
   // logged; neither loses the message. `decodedCount` is the number of messages stored before it.
   DecodeOutcome DecodeMetarMessage(const BulletinMessage& message, int decodedCount);
 
+  // Tells what the look-up of a station has found that a message to come is probably of: where it
+  // is that station nothing is looked up again. The view has to hold until the next call.
+  void Expect(const StationFound& station) noexcept { expected_ = station; }
+
  private:
   void DecodeHeading(const BulletinMessage& message);
   bool FindTime(const BulletinMessage& message);
@@ -27,6 +31,7 @@ class MetarDecoder {
   DecodeContext& context_;
   MetarRawData raw_;
   MessageScratch scratch_;
+  StationFound expected_;
   std::size_t wordIndex_ = 0;
   std::vector<std::string_view> forms_;
 };

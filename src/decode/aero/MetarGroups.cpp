@@ -182,13 +182,15 @@ Verdict TryWind(MetarWalk& walk, std::string_view word) {
   Set(walk, word.ends_with("KT") || Holds(word, "KT") ? MetarFlag::WindKt
             : Holds(word, "KMH")                      ? MetarFlag::WindKmh
                                                       : MetarFlag::WindMps);
-  if (Holds(word, 'V') && Holds(word, "VRB")) {
+  // Most are figures up to the unit, and hold nothing else.
+  const bool plain = unit == 6 && IsDigits(word.substr(0, 5));
+  if (!plain && Holds(word, 'V') && Holds(word, "VRB")) {
     Set(walk, MetarFlag::WindVariable);
   } else if (!SetLenient<1, 10>(section.WindDir, part(1, 3))) {
     return Verdict::Wrong;
   }
   if (!SetStrict(section.WindSpeed, part(4, 2))) return Verdict::Wrong;
-  if (Holds(word, 'G') && !SetStrict(section.Gust, part(7, 2))) return Verdict::Wrong;
+  if (!plain && Holds(word, 'G') && !SetStrict(section.Gust, part(7, 2))) return Verdict::Wrong;
   if (walk.IsLastWord()) return Verdict::Taken;
 
   const std::string_view next = walk.Ahead();
@@ -223,8 +225,12 @@ Verdict TryWindShear(MetarWalk& walk, std::string_view word) {
 
 // QPHPHPHPH in hectopascals or APHPHPHPH in hundredths of an inch.
 Verdict TryAltimeter(MetarWalk& walk, std::string_view word) {
-  if (Holds(word, '.')) return TryAltimeter(walk, Without(word, '.'));
   const std::string_view setting = word.substr(1);
+  if (std::uint32_t whole = 0; setting.size() == 4 && ReadFigures(setting, whole)) {
+    walk.Section().AltimeterPressure = static_cast<std::int16_t>(whole);
+    return Verdict::Taken;
+  }
+  if (Holds(word, '.')) return TryAltimeter(walk, Without(word, '.'));
   if (setting.size() != 4 || !IsNumeric(setting)) return Verdict::Declined;
   return TakenIf(SetStrict(walk.Section().AltimeterPressure, setting));
 }
@@ -276,11 +282,18 @@ bool SetDegrees(float& field, std::optional<double> degrees) noexcept {
   return value.has_value();
 }
 
+// True if there are figures, solidi and M only, as in most temperatures.
+bool IsPlainTemperature(std::string_view word) noexcept {
+  return std::all_of(word.begin(), word.end(),
+                     [](char c) { return (c >= '/' && c <= '9') || c == 'M'; });
+}
+
 // T'T'/T'dT'd in whole degrees, M for minus; with a T the form of a forecast.
 Verdict TryTemperature(MetarWalk& walk, std::string_view word) {
+  const bool plain = IsPlainTemperature(word);
   const bool runway = word.size() > 1 && word[0] == 'R' && IsDigit(word[1]);
-  if (Holds(word, "SM") || runway || HasCloudCover(word)) return Verdict::Declined;
-  const bool forecast = Holds(word, 'T');
+  if (!plain && (runway || Holds(word, "SM") || HasCloudCover(word))) return Verdict::Declined;
+  const bool forecast = !plain && Holds(word, 'T');
   if (forecast) {
     std::string group(word);
     std::erase_if(group, [](char c) { return c == 'T' || c == 'Z'; });

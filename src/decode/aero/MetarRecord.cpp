@@ -3,11 +3,14 @@
 #include <utility>
 
 namespace zg {
+namespace {
+constexpr MetarRawSection BlankSection;
+}
 
 void ResetMetarRecord(MetarRawData& record) {
   // The sections not in use are as new, and the texts keep their memory: a reset costs little.
   for (std::size_t i = 0; i <= static_cast<std::size_t>(record.SectionIndex); ++i) {
-    record.Section[i] = {};
+    record.Section[i] = BlankSection;
   }
   record.Accepted = 0;
   record.Station = {};

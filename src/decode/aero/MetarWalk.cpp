@@ -1,15 +1,26 @@
 #include "decode/aero/MetarWalk.h"
 
+#include <bit>
+
 namespace zg {
 namespace {
 
-// Offers the word to the entries of a table that may want it, in their order.
-Verdict OfferTo(const RecogniserIndex& index, std::uint8_t features, MetarWalk& walk) {
-  std::uint64_t candidates = index.Candidates(walk.Word, features, walk.InRemarks);
+// Offers the word to the entries of a table that may want it, in their order. It is looked through
+// only when it comes to an entry that wants something inside: most are taken before.
+Verdict OfferTo(const RecogniserIndex& index, MetarWalk& walk) {
+  const std::string_view word = walk.Word;
+  const std::uint8_t ending = FeaturesOfEnding(word);
+  std::uint64_t candidates = index.Candidates(word, ending | WordFeature::Inside, walk.InRemarks);
+  bool lookedThrough = false;
   while (candidates != 0) {
-    const auto next = static_cast<std::size_t>(std::countr_zero(candidates));
+    const Recogniser& next = index.Table()[static_cast<std::size_t>(std::countr_zero(candidates))];
+    if ((next.Needs & WordFeature::Inside) != 0 && !lookedThrough) {
+      candidates &= index.Content(ending | FeaturesInside(word));
+      lookedThrough = true;
+      continue;
+    }
     candidates &= candidates - 1;
-    const Verdict verdict = index.Table()[next].Try(walk, walk.Word);
+    const Verdict verdict = next.Try(walk, word);
     if (verdict != Verdict::Declined) return verdict;
   }
   return Verdict::Declined;
@@ -22,17 +33,15 @@ Verdict OfferWord(MetarWalk& walk) {
   static const RecogniserIndex remarks(RemarkRecognisers());
   walk.Word = walk.WordList[walk.WordIndex];
   walk.Forms.clear();
-  while (true) {
-    const std::uint8_t features = FeaturesOf(walk.Word);
-    Verdict verdict = Verdict::Declined;
-    if (walk.Section().SectionType == SectionKind::Remarks) {
-      verdict = OfferTo(remarks, features, walk);
+  Verdict verdict = Verdict::Again;
+  while (verdict == Verdict::Again) {
+    const bool inRemarks = walk.Section().SectionType == SectionKind::Remarks;
+    const RecogniserIndex* index = inRemarks ? &remarks : &general;
+    while ((verdict = OfferTo(*index, walk)) == Verdict::Declined && index != &general) {
+      index = &general;
     }
-    if (verdict == Verdict::Declined) {
-      verdict = OfferTo(general, features, walk);
-    }
-    if (verdict != Verdict::Again) return verdict;
   }
+  return verdict;
 }
 
 }  // namespace zg

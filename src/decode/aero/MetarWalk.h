@@ -67,6 +67,7 @@ constexpr bool IsNotReported(std::string_view part) noexcept {
 // The whole part as a number; false if it is none or out of the field's range.
 template <typename T>
 bool SetStrict(T& field, std::string_view part) noexcept {
+  if (SetFigures(field, part)) return true;
   if (IsNotReported(part)) return true;
   const std::optional<T> value = StrictInteger<T>(part);
   if (value) field = *value;
@@ -77,6 +78,7 @@ bool SetStrict(T& field, std::string_view part) noexcept {
 // is out of range.
 template <std::uint32_t Factor = 1, std::uint32_t Divisor = 1, typename T>
 bool SetLenient(T& field, std::string_view part) noexcept {
+  if (SetFigures<Factor, Divisor>(field, part)) return true;
   if (IsNotReported(part)) return true;
   const std::optional<T> value = LenientInteger<T, Factor, Divisor>(part);
   if (value) field = *value;
@@ -103,6 +105,7 @@ enum : std::uint8_t {
   LetterG = 16,    // holds a G, as BECMG does
   LetterP = 32,    // holds a P, as PROB does
   EndsInZ = 64,
+  Inside = Solidus | LetterG | LetterP,  // those for which the whole word is looked through
 };
 inline constexpr std::size_t Combinations = 128;
 }  // namespace WordFeature
@@ -136,10 +139,14 @@ inline constexpr auto FeaturesOfCharacter = [] {
   return features;
 }();
 
-constexpr std::uint8_t FeaturesOf(std::string_view word) noexcept {
-  unsigned features = FeaturesOfEnding(word);
+constexpr std::uint8_t FeaturesInside(std::string_view word) noexcept {
+  unsigned features = WordFeature::None;
   for (char c : word) features |= FeaturesOfCharacter[static_cast<unsigned char>(c)];
   return static_cast<std::uint8_t>(features);
+}
+
+constexpr std::uint8_t FeaturesOf(std::string_view word) noexcept {
+  return FeaturesOfEnding(word) | FeaturesInside(word);
 }
 
 // The lengths of the words that a recogniser may take. From `Longest` on they are not told apart.
@@ -196,6 +203,11 @@ class RecogniserIndex {
                                  byLength_[std::min(word.size(), WordLength::Longest)] &
                                  byFeatures_[features];
     return inRemarks ? wanted & inRemarks_ : wanted;
+  }
+
+  // All entries that want no other features than these.
+  constexpr std::uint64_t Content(std::uint8_t features) const noexcept {
+    return byFeatures_[features];
   }
 
   std::span<const Recogniser> Table() const noexcept { return table_; }

@@ -103,9 +103,9 @@ SynopDecoder::Step SynopDecoder::ReadSeaHeader(const BulletinMessage& message, S
     }
   }
   ++walk.WordIndex;
-  if (walk.Part(3, 3) != "///") station.LatPosition = static_cast<float>(Value(walk.Part(3, 3)));
+  if (!walk.AreSolidi(3, 3)) station.LatPosition = static_cast<float>(Value(walk.Part(3, 3)));
   ++walk.WordIndex;
-  if (walk.Part(2, 4) != "////") {
+  if (!walk.AreSolidi(2, 4)) {
     station.LongPosition = static_cast<float>(Value(walk.Part(2, 4)));
   }
   if (const std::string_view quadrant = walk.Part(1, 1); quadrant != "/") {
@@ -144,7 +144,7 @@ SynopDecoder::Step SynopDecoder::FindStation(bool singleMessage) {
   if (kind == StationKinds::Land) {
     SetFlag(raw_.FilterFlags, SynopFlag::Land);
     wanted = WantLand;
-    const StationRow* row = context_.Stations.FindByWMOIndex(station.Station);
+    const StationRow* row = context_.Stations.FindByWMOIndex(station.Station, expected_);
     if (row != nullptr) stationRow_ = row->id;
     LoadStationRecord(row, station);
     listName_ = station.Station;

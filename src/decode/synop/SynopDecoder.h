@@ -16,6 +16,10 @@ class SynopDecoder {
   // the message. `decodedCount` is the number of messages stored before it.
   DecodeOutcome DecodeSynopMessage(const BulletinMessage& message, int decodedCount);
 
+  // Tells what the look-up of a station has found that a message to come is probably of: where it
+  // is that station nothing is looked up again. The view has to hold until the next call.
+  void Expect(const StationFound& station) noexcept { expected_ = station; }
+
  private:
   enum class Step { GoOn, Reject, Drop };
 
@@ -30,6 +34,7 @@ class SynopDecoder {
   DecodeContext& context_;
   SynopRawData raw_;
   MessageScratch scratch_;
+  StationFound expected_;
   int stationRow_ = -1;
   std::string_view listName_;
 };

@@ -11,7 +11,7 @@ constexpr double Tenth = 0.1;
 // 00fff, a wind speed of three figures where ff could not hold it.
 void ReadHighWind(SynopWalk& walk) {
   if (walk.AtEnd() || !IsMissing(walk.Raw.WindSpeed)) return;
-  if (walk.Part(2, 1) == "0" && walk.Part(3, 3) != "///") walk.SetStrict(walk.Raw.WindSpeed, 3, 3);
+  if (walk.Is(2, '0') && !walk.AreSolidi(3, 3)) walk.SetStrict(walk.Raw.WindSpeed, 3, 3);
 }
 
 // The amount of a temperature TTT: tenths of a degree, or whole degrees if the tenths are a
@@ -21,17 +21,17 @@ double Degrees(const SynopWalk& walk) noexcept {
 }
 
 void ReadTemperature(SynopWalk& walk) {
-  if (walk.Part(3, 3) == "///") return;
-  walk.Raw.Temperature = Signed(Degrees(walk), walk.Part(2, 1) == "1");
+  if (walk.AreSolidi(3, 3)) return;
+  walk.Raw.Temperature = Signed(Degrees(walk), walk.Is(2, '1'));
 }
 
 // 2SnTdTdTd, or with 9 as sign a relative humidity.
 void ReadDewPoint(SynopWalk& walk) {
-  if (walk.Part(3, 3) == "///") return;
-  const std::string_view sign = walk.Part(2, 1);
-  if (sign == "0" || sign == "1") {
-    walk.Raw.DewPoint = Signed(Degrees(walk), sign == "1");
-  } else if (sign == "9") {
+  if (walk.AreSolidi(3, 3)) return;
+  const bool negative = walk.Is(2, '1');
+  if (negative || walk.Is(2, '0')) {
+    walk.Raw.DewPoint = Signed(Degrees(walk), negative);
+  } else if (walk.Is(2, '9')) {
     walk.Raw.Humidity = static_cast<float>(Value(walk.Part(3, 3)));
   }
 }
@@ -42,7 +42,7 @@ void ReadPressure(const SynopWalk& walk, float& field) {
   if (!walk.IsSolidus(5)) {
     const double pressure = Tenth * Value(walk.Part(2, 4));
     field = static_cast<float>(pressure < 500 ? pressure + 1000 : pressure);
-  } else if (walk.Part(3, 3) != "///") {
+  } else if (!walk.AreSolidi(3, 3)) {
     field = static_cast<float>(Tenth * Value(walk.Part(2, 3)));
   }
 }
@@ -52,14 +52,14 @@ void ReadStationPressure(SynopWalk& walk) { ReadPressure(walk, walk.Raw.StatPres
 // 4PPPP, or 4a3hhh with the height of a standard level (WMO code table 0264).
 void ReadSeaLevelPressure(SynopWalk& walk) {
   struct Level {
-    std::string_view figure;
+    char figure;
     std::int16_t pressure;
   };
   static constexpr std::array<Level, 5> Levels = {
-      {{"1", 1000}, {"2", 925}, {"5", 500}, {"7", 700}, {"8", 850}}};
+      {{'1', 1000}, {'2', 925}, {'5', 500}, {'7', 700}, {'8', 850}}};
   for (const Level& level : Levels) {
-    if (level.figure != walk.Part(2, 1)) continue;
-    if (walk.Part(3, 3) == "///") return;
+    if (!walk.Is(2, level.figure)) continue;
+    if (walk.AreSolidi(3, 3)) return;
     walk.SetLenient(walk.Raw.GeopotHeight, 3, 3);
     if (walk.Raw.GeopotHeight < 500) {
       walk.Raw.GeopotHeight = static_cast<std::int16_t>(walk.Raw.GeopotHeight + 1000);
@@ -73,7 +73,7 @@ void ReadSeaLevelPressure(SynopWalk& walk) {
 // 5appp: from 5 on the characteristic is of a fall (WMO code table 0200).
 void ReadTendency(SynopWalk& walk) {
   walk.SetFigure(walk.Raw.PressTendency, 2);
-  if (walk.Part(3, 3) == "///") return;
+  if (walk.AreSolidi(3, 3)) return;
   walk.Raw.PressTendencyVal = Signed(Tenth * Value(walk.Part(3, 3)), walk.Raw.PressTendency >= 5);
 }
 
@@ -97,7 +97,7 @@ void ReadClouds(SynopWalk& walk) {
 
 // 9GGgg. Beyond the clock the first figure is taken as a repeated 9.
 void ReadTime(SynopWalk& walk) {
-  if (walk.Part(2, 4) == "////") return;
+  if (walk.AreSolidi(2, 4)) return;
   const double time = Value(walk.Part(2, 4));
   walk.Raw.TimeOfObservation = PlainDecimal(time > 2359 ? time - 9000 : time);
 }
@@ -115,10 +115,10 @@ constexpr std::array<SynopGroup, 10> Groups = {{
     {'9', "Time of observation", "9GGgg", ReadTime},
 }};
 
-constexpr SynopSection Section = {"2345", "2345", Groups};
+constexpr SynopSection Section("2345", "2345", Groups);
 
-bool IsMarker(std::string_view word, std::string_view figures) noexcept {
-  return word[0] == word[1] && word[1] == word[2] && Holds(figures, word.substr(0, 1));
+constexpr bool IsMarker(std::string_view word, std::string_view figures) noexcept {
+  return word[0] == word[1] && word[1] == word[2] && Holds(figures, word[0]);
 }
 
 }  // namespace
@@ -143,11 +143,7 @@ void ReadSection(SynopWalk& walk, const SynopSection& section) {
     const std::string_view word = walk.Word();
     if (word.size() == 5 && IsMarker(word, section.LongMarkers)) return;
     if (word.size() == 3 && IsMarker(word, section.ShortMarkers)) return;
-    for (const SynopGroup& group : section.Groups) {
-      if (group.First != word[0]) continue;
-      group.Read(walk);
-      break;
-    }
+    section.ReadGroup(walk);
   }
 }
 

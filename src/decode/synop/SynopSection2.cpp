@@ -14,7 +14,7 @@ bool IsNegativeKind(std::string_view figure) noexcept {
 // 0SsTwTwTw and 8SwTbTbTb. A kind that says negative turns the field's sign even where no value
 // stands, so that a missing value becomes its negative and shows as a number.
 void ReadTemperature(SynopWalk& walk, float& field, std::uint8_t& kind) {
-  if (walk.Part(3, 3) != "///") {
+  if (!walk.AreSolidi(3, 3)) {
     const double value = Value(walk.Part(3, 3));
     field = static_cast<float>(walk.IsSolidus(5) ? value : 0.1 * value);
   }
@@ -82,7 +82,7 @@ constexpr std::array<SynopGroup, 10> Groups = {{
     {'I', "Sea ice", "ICE ciSibiDizi", ReadSeaIce},
 }};
 
-constexpr SynopSection Section = {"345", "2345", Groups};
+constexpr SynopSection Section("345", "2345", Groups);
 
 }  // namespace
 

@@ -12,25 +12,25 @@ constexpr double Tenth = 0.1;
 // Four figures kept as the text of a number.
 template <std::string SynopRawData::*Field>
 void ReadRegional(SynopWalk& walk) {
-  if (walk.Part(2, 4) != "////") walk.Raw.*Field = PlainDecimal(Value(walk.Part(2, 4)));
+  if (!walk.AreSolidi(2, 4)) walk.Raw.*Field = PlainDecimal(Value(walk.Part(2, 4)));
 }
 
 // 1SnTxTxTx: the first of a message holds. A solidus only ends the number: 1012/ is 1.2 degrees.
 void ReadMaximum(SynopWalk& walk) {
-  if (!IsMissing(walk.Raw.MaxTemperature) || walk.Part(3, 3) == "///") return;
-  walk.Raw.MaxTemperature = Signed(Tenth * Value(walk.Part(3, 3)), walk.Part(2, 1) == "1");
+  if (!IsMissing(walk.Raw.MaxTemperature) || walk.AreSolidi(3, 3)) return;
+  walk.Raw.MaxTemperature = Signed(Tenth * Value(walk.Part(3, 3)), walk.Is(2, '1'));
 }
 
 // 2SnTnTnTn: the last of a message holds. Solidi leave whole degrees: 2012/ is 12 degrees.
 void ReadMinimum(SynopWalk& walk) {
-  if (walk.Part(3, 3) == "///") return;
+  if (walk.AreSolidi(3, 3)) return;
   double value = Tenth * Value(walk.Part(3, 3));
-  if (walk.Part(4, 2) == "//") {
+  if (walk.AreSolidi(4, 2)) {
     value = Value(walk.Part(3, 1));
   } else if (walk.IsSolidus(5)) {
     value = Value(walk.Part(3, 2));
   }
-  walk.Raw.MinTemperature = Signed(value, walk.Part(2, 1) == "1");
+  walk.Raw.MinTemperature = Signed(value, walk.Is(2, '1'));
 }
 
 void ReadSnow(SynopWalk& walk) {
@@ -59,13 +59,13 @@ void ReadDayPrecipitation(SynopWalk& walk) {
 void ReadCloudLayer(SynopWalk& walk) {
   const std::size_t layer = walk.CloudLayer++;
   if (layer >= SynopCloudLayers) {
-    const bool given = !walk.IsSolidus(2) || !walk.IsSolidus(3) || walk.Part(4, 2) != "//";
+    const bool given = !walk.IsSolidus(2) || !walk.IsSolidus(3) || !walk.AreSolidi(4, 2);
     if (given) walk.WrongItem();
     return;
   }
   walk.SetFigure(walk.Raw.CloudCovLayer[layer], 2);
   walk.SetFigure(walk.Raw.TypeOfCloud[layer], 3);
-  if (walk.Part(4, 2) == "//") return;
+  if (walk.AreSolidi(4, 2)) return;
   if (walk.IsSolidus(5)) {
     walk.SetStrict(walk.Raw.HeighOfCloud[layer], 4, 1);
   } else {
@@ -88,8 +88,8 @@ constexpr std::array<SynopGroup, 10> Groups3 = {{
     {'9', "Supplementary information", "9SpSpspsp", ReadSupplement},
 }};
 
-constexpr SynopSection Third = {"45", "2345", Groups3};
-constexpr SynopSection Fourth = {"5", "2345", {}};
+constexpr SynopSection Third("45", "2345", Groups3);
+constexpr SynopSection Fourth("5", "2345", {});
 
 // dddfff, a wind of the last ten-minute periods.
 void ReadContinuousWind(SynopWalk& walk) {
@@ -103,17 +103,17 @@ void ReadContinuousWind(SynopWalk& walk) {
 
 template <std::int16_t SynopRawData::*Field>
 void ReadWindAt(SynopWalk& walk) {
-  if (walk.Part(3, 3) != "///") walk.SetStrict(walk.Raw.*Field, 3, 3);
+  if (!walk.AreSolidi(3, 3)) walk.SetStrict(walk.Raw.*Field, 3, 3);
 }
 
 template <std::string_view SynopRawData::*Field>
 void ReadClock(SynopWalk& walk) {
-  if (walk.Part(2, 4) != "////") walk.Raw.*Field = walk.Scratch.Text(walk.Part(2, 4));
+  if (!walk.AreSolidi(2, 4)) walk.Raw.*Field = walk.Scratch.Text(walk.Part(2, 4));
 }
 
 void ReadMaximumWind(SynopWalk& walk) {
-  if (walk.Part(2, 2) != "//") walk.SetStrict(walk.Raw.MaxWindDir, 2, 2);
-  if (walk.Part(4, 2) != "//") walk.SetStrict(walk.Raw.MaxWindSpeed, 4, 2);
+  if (!walk.AreSolidi(2, 2)) walk.SetStrict(walk.Raw.MaxWindDir, 2, 2);
+  if (!walk.AreSolidi(4, 2)) walk.SetStrict(walk.Raw.MaxWindSpeed, 4, 2);
 }
 
 constexpr std::array<SynopGroup, 5> Groups5 = {{
@@ -123,6 +123,8 @@ constexpr std::array<SynopGroup, 5> Groups5 = {{
     {'4', "Maximum wind", "4ddff", ReadMaximumWind},
     {'6', "Time of the continuous winds", "6GGgg", ReadClock<&SynopRawData::ContinueWindTime>},
 }};
+
+constexpr SynopSection Fifth("", "", Groups5);
 
 }  // namespace
 
@@ -135,11 +137,7 @@ void ReadSection5(SynopWalk& walk) {
       ReadContinuousWind(walk);
       continue;
     }
-    for (const SynopGroup& group : Groups5) {
-      if (group.First != walk.Word()[0]) continue;
-      group.Read(walk);
-      break;
-    }
+    Fifth.ReadGroup(walk);
   }
 }
 

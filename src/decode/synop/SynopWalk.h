@@ -2,6 +2,8 @@
 // cannot be read is logged and stays missing; the rest of the group and of the message is read.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -31,7 +33,16 @@ struct SynopWalk {
   std::string_view Part(std::size_t start, std::size_t count) const noexcept {
     return Mid(Word(), start, count);
   }
-  bool IsSolidus(std::size_t position) const noexcept { return Part(position, 1) == "/"; }
+  bool Is(std::size_t position, char c) const noexcept {
+    const std::string_view word = Word();
+    return position <= word.size() && word[position - 1] == c;
+  }
+  bool IsSolidus(std::size_t position) const noexcept { return Is(position, '/'); }
+  // True if all `count` characters are there and solidi: their value was not reported.
+  bool AreSolidi(std::size_t start, std::size_t count) const noexcept {
+    const std::string_view part = Part(start, count);
+    return part.size() == count && zg::IsSolidi(part);
+  }
   std::string_view TakeWord() noexcept {
     const std::string_view word = Word();
     ++WordIndex;
@@ -46,7 +57,7 @@ struct SynopWalk {
   // Strict reading: the part is a number in the field's range, or it is a wrong item.
   template <typename T>
   void SetStrict(T& field, std::size_t start, std::size_t count) const {
-    if (AtEnd()) return;
+    if (AtEnd() || SetFigures(field, Part(start, count))) return;
     if (const auto value = StrictInteger<T>(Part(start, count))) {
       field = *value;
     } else {
@@ -63,7 +74,7 @@ struct SynopWalk {
   // Lenient reading: the number that the part begins with, 0 without one.
   template <typename T>
   void SetLenient(T& field, std::size_t start, std::size_t count) const {
-    if (AtEnd()) return;
+    if (AtEnd() || SetFigures(field, Part(start, count))) return;
     if (const auto value = LenientInteger<T>(Part(start, count))) {
       field = *value;
     } else {
@@ -74,9 +85,7 @@ struct SynopWalk {
   // The same unless the part is `count` solidi.
   template <typename T>
   void SetReported(T& field, std::size_t start, std::size_t count) const {
-    if (Part(start, count) != std::string_view("////").substr(0, count)) {
-      SetLenient(field, start, count);
-    }
+    if (!AreSolidi(start, count)) SetLenient(field, start, count);
   }
 };
 
@@ -93,6 +102,21 @@ struct SynopSection {
   std::string_view LongMarkers;   // first figures of the five-character words that end it
   std::string_view ShortMarkers;  // of the three-character words
   std::span<const SynopGroup> Groups;
+  std::array<std::uint8_t, 256> ByFirst{};  // number of the group plus 1 by the first character
+
+  constexpr SynopSection(std::string_view longMarkers, std::string_view shortMarkers,
+                         std::span<const SynopGroup> groups) noexcept
+      : LongMarkers(longMarkers), ShortMarkers(shortMarkers), Groups(groups) {
+    for (std::size_t i = 0; i < groups.size(); ++i) {
+      ByFirst[static_cast<unsigned char>(groups[i].First)] = static_cast<std::uint8_t>(i + 1);
+    }
+  }
+
+  // Reads the current word if the section has a group that begins like it.
+  void ReadGroup(SynopWalk& walk) const {
+    const std::size_t number = ByFirst[static_cast<unsigned char>(walk.Word()[0])];
+    if (number != 0) Groups[number - 1].Read(walk);
+  }
 };
 
 // Reads the groups from the current word up to the end of the section.
