@@ -1,12 +1,14 @@
 #include "Yardstick.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace zg::bench {
 namespace {
 
-constexpr char UpperCase(char c) noexcept {
-  return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+// As one writes it without a thought for speed.
+char UpperCase(char c) noexcept {
+  return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include <QTimer>
 
 #include "shell/QtStartUp.h"
-#include "stations/StationImport.h"
 
 namespace zg::test {
 namespace {
@@ -11,29 +10,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* Database = "ICAOData.mdb";
-
-// The shipped database with its station table built, made once for all tests of the process.
-const std::string& DatabaseWithStations() {
-  static const TemporaryFolder folder;
-  static const std::string path = [] {
-    const std::string shipped = std::string(ZG_BINARY_DIR) + "/";
-    for (const char* name :
-         {"zephyrgram.ini", "zephyrgram.def", "wmo_index.txt", "icao_index.txt"}) {
-      fs::copy_file(fs::path(ZG_SOURCE_DIR) / "data" / name, folder / name);
-    }
-    fs::copy_file(shipped + Database, folder / Database);
-    RecordingPrompt prompt;
-    RecordingLog log;
-    RecordingProgress progress;
-    TextUtility texts;
-    const GenericUtility parameters(folder.Path(), prompt, texts);
-    DBUtility database(prompt);
-    database.ConnectDatabase(folder / Database);
-    BuildStationTable(parameters, database, texts, log, progress, prompt);
-    return folder / Database;
-  }();
-  return path;
-}
 
 }  // namespace
 
@@ -91,7 +67,7 @@ ApplicationFolder::ApplicationFolder(bool stations) {
     fs::copy_file(fs::path(ZG_SOURCE_DIR) / "data" / name, folder_ / name,
                   fs::copy_options::overwrite_existing);
   }
-  fs::copy_file(stations ? DatabaseWithStations() : std::string(ZG_BINARY_DIR) + "/" + Database,
+  fs::copy_file(fs::path(ZG_STATIONS_DIR) / (stations ? Database : "empty.mdb"),
                 folder_ / Database);
   fs::create_directories(folder_ / "WrongFiles");
 }
