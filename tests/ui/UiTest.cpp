@@ -98,8 +98,12 @@ void OnModal(const char* name, std::function<void(QWidget&)> act) {
   auto tries = std::make_shared<int>(0);
   QObject::connect(timer, &QTimer::timeout, timer, [timer, tries, name, act = std::move(act)] {
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr || modal->objectName() != QLatin1String(name)) {
-      if (++*tries == 500) {
+    const bool shown = modal != nullptr && modal->objectName() == QLatin1String(name);
+    ++*tries;
+    // Keys reach a window once it is active; a click would reach it before.
+    if (shown && !modal->isActiveWindow() && *tries < 500) return;
+    if (!shown) {
+      if (*tries == 500) {
         timer->deleteLater();
         ADD_FAILURE() << "no window " << name;
       }
