@@ -13,7 +13,7 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QUrl>
-#include <ranges>
+#include <algorithm>
 
 #include "decode/frmDecode.h"
 #include "shell/LineDecoder.h"
@@ -162,15 +162,15 @@ void frmMain::GreyUnbound() {
     action->setEnabled(bound_.contains(name));
   }
   // From the leaves up: a submenu stands behind its menu in the tree.
-  for (const MenuEntry& entry : MenuTree() | std::views::reverse) {
-    if (entry.Kind != MenuKind::Menu || entry.Name == "mnuRecent") continue;
+  const auto tree = MenuTree();
+  std::for_each(tree.rbegin(), tree.rend(), [this](const MenuEntry& entry) {
+    if (entry.Kind != MenuKind::Menu || entry.Name == "mnuRecent") return;
     QMenu* menu = Menu(entry.Name);
-    bool works = false;
-    for (const QAction* action : menu->actions()) {
-      works = works || (!action->isSeparator() && action->isEnabled());
-    }
-    menu->menuAction()->setEnabled(works);
-  }
+    const QList<QAction*> actions = menu->actions();
+    menu->menuAction()->setEnabled(std::any_of(
+        actions.begin(), actions.end(),
+        [](const QAction* action) { return !action->isSeparator() && action->isEnabled(); }));
+  });
 }
 
 // --- State -----------------------------------------------------------------------------------

@@ -174,7 +174,7 @@ ReportForm::Field ReportForm::BuildField(std::size_t tab, const ReportField& row
       break;
     case ReportControl::Lines:
       keep(new ReportLines(row.Width, RemarkLines, parent));
-      field.Label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+      if (field.Label != nullptr) field.Label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
       break;
     case ReportControl::Message: {
       auto* lines = keep(new ReportLines(MessageWidth, MessageLines, parent));
@@ -225,10 +225,10 @@ QWidget* ReportForm::BuildChoice(std::size_t choice, int perLine, QWidget* paren
 }
 
 QWidget* ReportForm::BuildCommands() {
-  FrameCommand_ = new QWidget(this);
-  FrameCommand_->setObjectName(QStringLiteral("FrameCommand"));
+  frameCommand_ = new QWidget(this);
+  frameCommand_->setObjectName(QStringLiteral("FrameCommand"));
   const auto button = [this](const char* name) {
-    auto* made = new QPushButton(FrameCommand_);
+    auto* made = new QPushButton(frameCommand_);
     made->setObjectName(QLatin1String(name));
     return made;
   };
@@ -246,14 +246,14 @@ QWidget* ReportForm::BuildCommands() {
   auto* print = new QShortcut(QKeySequence::Print, this);
   connect(print, &QShortcut::activated, cmdReport_, [this] { cmdReport_->click(); });
 
-  auto* layout = new QHBoxLayout(FrameCommand_);
+  auto* layout = new QHBoxLayout(frameCommand_);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(cmdPrevious_);
   layout->addWidget(cmdNext_);
   layout->addStretch();
   layout->addWidget(cmdReport_);
   layout->addWidget(cmdCancel_);
-  return FrameCommand_;
+  return frameCommand_;
 }
 
 // --- Captions ----------------------------------------------------------------------------------
@@ -442,10 +442,10 @@ void ReportForm::Report() {
   printer.setPageOrientation(width() > height() ? QPageLayout::Landscape : QPageLayout::Portrait);
   printer.setDocName(windowTitle());
   if (!ChoosePrinter(printer)) return;
-  FrameCommand_->hide();
+  frameCommand_->hide();
   layout()->activate();
   const bool printed = Print(printer);
-  FrameCommand_->show();
+  frameCommand_->show();
   cmdReport_->setFocus();
   if (printed) return;
   app_.Messages.Show(Prompt::Icon::Critical,

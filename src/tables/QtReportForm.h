@@ -88,7 +88,7 @@ class ReportForm : public Form {
 
   RecordBox* cmbWmoId_ = nullptr;
   QTabWidget* tabs_ = nullptr;
-  QWidget* FrameCommand_ = nullptr;
+  QWidget* frameCommand_ = nullptr;
   QPushButton* cmdPrevious_ = nullptr;
   QPushButton* cmdNext_ = nullptr;
   QPushButton* cmdReport_ = nullptr;
