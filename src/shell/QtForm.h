@@ -19,7 +19,7 @@ namespace zg {
 // stay as they are.
 void ReadLabel(Application& app, QWidget& form);
 
-// ReadLabel and CaptionsChanged for every window of the program.
+// ReadLabel for every window of the program, and SetCaptions for the forms among them.
 void ReadLabelOfAllForms(Application& app);
 
 // The size that a window was left with, and keeping it. A window never seen has no size.
@@ -34,8 +34,8 @@ class Form : public QDialog {
   // `name` becomes the object name, and that of the label files.
   Form(Application& app, std::string_view name, QWidget* parent);
 
-  // Reads the captions in the language in force. To be called at the end of the constructor, and
-  // again for a form without label file only through SetCaptions.
+  // Reads the label file in the language in force, then sets the captions that come from code. To
+  // be called at the end of the constructor of a form, and after a change of language.
   void ReadLabels();
 
   // Sets the captions that come from code. Called after each reading of the label file.
